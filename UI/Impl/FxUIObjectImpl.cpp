@@ -1,0 +1,8 @@
+#include "UI/Impl/FxUIObjectImpl.h"
+
+CFxUIObjectImpl::CFxUIObjectImpl(CFxUIObject *object)
+    : owner(object)
+{
+}
+
+CFxUIObjectImpl::~CFxUIObjectImpl() = default;

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "UI/FxUIExport.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+class CFxUIObject;
+
+/// Root of the implementation objects: keeps the state, owns the signals and drives the Qt object
+/// that is the owner's handle.
+class COMMONUI_EXPORT CFxUIObjectImpl {
+public:
+    /// \a object is the public object; not null, not owned. Its `impl` isn't set yet.
+    explicit CFxUIObjectImpl(CFxUIObject *object);
+    virtual ~CFxUIObjectImpl();
+
+    CFxUIObjectImpl(const CFxUIObjectImpl &) = delete;
+    CFxUIObjectImpl &operator=(const CFxUIObjectImpl &) = delete;
+
+    /// A label for the kind of Qt object; only its being empty or not has a meaning. Here: empty.
+    virtual QString GetFrontendClassName();
+
+    /// Makes the Qt object and stores it as the owner's handle. Here: nothing.
+    virtual void CreateFrontendControl();
+
+    /// QObject::setObjectName on the handle, if there is one.
+    virtual void SetObjectNameImpl(const QString &name);
+
+    /// QObject::setProperty on the handle; its result, or false without a handle.
+    virtual bool SetPropertyImpl(const char *name, const QVariant &value);
+
+    CFxUIObject *owner;
+};

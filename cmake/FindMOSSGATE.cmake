@@ -1,0 +1,21 @@
+# Finds the host's kernel library below COMMONUI_MOSSGATE_ROOT (or the ordinary prefixes) and
+# defines the imported target MOSSGATE::MOSSGATE.
+
+find_path(MOSSGATE_INCLUDE_DIR FxDialog.h
+    HINTS "${COMMONUI_MOSSGATE_ROOT}"
+    PATH_SUFFIXES include/MOSSGATE include MOSSGATE)
+find_library(MOSSGATE_LIBRARY NAMES MOSSGATE libMOSSGATE.so.1
+    HINTS "${COMMONUI_MOSSGATE_ROOT}"
+    PATH_SUFFIXES lib lib64 lib/${CMAKE_LIBRARY_ARCHITECTURE} .)
+
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(MOSSGATE REQUIRED_VARS MOSSGATE_LIBRARY MOSSGATE_INCLUDE_DIR)
+
+if(MOSSGATE_FOUND AND NOT TARGET MOSSGATE::MOSSGATE)
+    add_library(MOSSGATE::MOSSGATE SHARED IMPORTED)
+    set_target_properties(MOSSGATE::MOSSGATE PROPERTIES
+        IMPORTED_LOCATION "${MOSSGATE_LIBRARY}"
+        INTERFACE_INCLUDE_DIRECTORIES "${MOSSGATE_INCLUDE_DIR}")
+    target_link_libraries(MOSSGATE::MOSSGATE INTERFACE Qt5::Widgets)
+endif()
+mark_as_advanced(MOSSGATE_INCLUDE_DIR MOSSGATE_LIBRARY)

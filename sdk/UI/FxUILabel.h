@@ -1,0 +1,45 @@
+#pragma once
+
+#include "UI/FxUIBaseView.h"
+
+#include <QtCore/QString>
+
+class QIcon;
+class QPixmap;
+
+/// A line of text, an icon or a picture (QLabel). Has no signals of its own.
+///
+/// No setter compares with the old value: setting the same value twice goes to the widget twice.
+class COMMONUI_EXPORT CFxUILabel : public CFxUIBaseView {
+public:
+    CFxUILabel();
+    ~CFxUILabel() override;
+
+    /// Returns the last text set, also while a picture is shown. Default: empty.
+    QString text() const;
+    void setText(const QString &text);
+
+    /// Empties the text. An icon or pixmap that was set is shown no more, but stays stored.
+    void clear();
+
+    /// Shows \a icon at 25 by 25 pixels, whatever its own size; a null icon shows nothing.
+    void setIcon(const QIcon &icon);
+
+    /// Shows \a pixmap at its own size; a null pixmap shows nothing.
+    void setPixmap(const QPixmap &pixmap);
+
+    /// QFont::Bold or QFont::Normal on the widget's font. Not stored.
+    void setBoldText(bool bold);
+
+    /// Sets the size of the text in pixels (QFont::setPixelSize).
+    void setFontSize(int pixels);
+
+    /// Default: false.
+    bool wordWrap() const;
+    void setWordWrap(bool wrap);
+
+    void setToolTip(const QString &toolTip);
+
+    /// Aligns the text; a number outside the enumeration changes nothing. Not stored.
+    void setTextAlignment(CFxUIBaseView::TextAlignment alignment);
+};

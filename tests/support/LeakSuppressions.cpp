@@ -1,0 +1,10 @@
+// What LeakSanitizer is not to report, each with its reason. No effect without it.
+extern "C" const char *__lsan_default_suppressions();
+
+extern "C" __attribute__((visibility("default"))) const char *__lsan_default_suppressions()
+{
+    return
+        // Qt's offscreen platform never frees its one screen (368 bytes, once).
+        "leak:libqoffscreen.so\n"
+        "leak:QWindowSystemInterface::handleScreenAdded\n";
+}
