@@ -1,0 +1,104 @@
+#pragma once
+
+#include "signal_traits.h"
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace slimsig {
+
+template <class Signature> class connection;
+
+template <class Signature> class scoped_connection;
+
+/// Names one slot of one signal. Copies name the same slot.
+///
+/// It keeps neither alive, and may outlive both: without a signal it does nothing.
+template <class R, class... Args> class connection<R(Args...)> {
+    using signal_type = signal_base<signal_traits<R(Args...)>,
+                                    std::allocator<std::function<R(Args...)>>, R(Args...)>;
+    using signal_holder = typename signal_type::signal_holder;
+    using slot_id = typename signal_type::slot_id;
+
+public:
+    /// Makes a connection that names no slot.
+    connection() noexcept = default;
+
+    /// Disconnects the slot. Does nothing if it is disconnected already or its signal is gone.
+    /// Outside an emission the callable is destroyed before this returns, inside one when the
+    /// outermost emission ends; either way it is not called again.
+    void disconnect()
+    {
+        if (const std::shared_ptr<signal_holder> alive = m_holder.lock(); alive && alive->signal)
+            alive->signal->disconnect_slot(m_id);
+    }
+
+    /// Returns whether the signal lives and would call the slot. False for a slot connected empty.
+    bool connected() const
+    {
+        const std::shared_ptr<signal_holder> alive = m_holder.lock();
+        return alive && alive->signal && alive->signal->is_connected(m_id);
+    }
+
+private:
+    friend signal_type;
+
+    connection(const std::shared_ptr<signal_holder> &holder, slot_id id) noexcept
+        : m_holder(holder)
+        , m_id(id)
+    {
+    }
+
+    std::weak_ptr<signal_holder> m_holder;
+    slot_id m_id = 0;
+};
+
+/// Owns a connection: disconnects it when it ends. Movable, not copyable.
+template <class R, class... Args> class scoped_connection<R(Args...)> {
+public:
+    using connection_type = connection<R(Args...)>;
+
+    /// Owns nothing.
+    scoped_connection() noexcept = default;
+
+    /// Takes \a owned over. Not explicit, so that what connect() returns can be assigned.
+    scoped_connection(connection_type owned) noexcept
+        : m_connection(std::move(owned))
+    {
+    }
+
+    scoped_connection(scoped_connection &&other) noexcept
+        : m_connection(other.release())
+    {
+    }
+
+    /// Disconnects what was owned, then takes over what \a other owns.
+    scoped_connection &operator=(scoped_connection &&other)
+    {
+        connection_type taken = other.release();
+        m_connection.disconnect();
+        m_connection = std::move(taken);
+        return *this;
+    }
+
+    scoped_connection(const scoped_connection &) = delete;
+    scoped_connection &operator=(const scoped_connection &) = delete;
+
+    ~scoped_connection() { m_connection.disconnect(); }
+
+    /// Disconnects now.
+    void disconnect() { m_connection.disconnect(); }
+
+    bool connected() const { return m_connection.connected(); }
+
+    /// Returns the plain connection and owns nothing from then on: the slot stays connected.
+    connection_type release() noexcept { return std::exchange(m_connection, connection_type()); }
+
+private:
+    connection_type m_connection;
+};
+
+template <class Signature> scoped_connection(connection<Signature>) -> scoped_connection<Signature>;
+
+} // namespace slimsig
