@@ -29,6 +29,9 @@ endfunction()
 # commonui_configure(<target>): a part of the library itself.
 function(commonui_configure target)
     commonui_compile_options(${target})
+    # A unique symbol, as the standard library's templates bring in, would keep the library in the
+    # process when a host closes it.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     target_include_directories(${target} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/sdk>
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
