@@ -17,14 +17,14 @@ class CFxUIShowEvent;
 /// Getters answer from this object's own record, never from the widget.
 class COMMONUI_EXPORT CFxUIBaseView : public CFxUIObject {
 public:
-    enum TextAlignment {
+    enum TextAlignment : int {
         AlignLeft = 0, ///< Qt::AlignLeft
         AlignRight = 1, ///< Qt::AlignRight
         AlignCenter = 2 ///< Qt::AlignCenter, in both directions
     };
 
     /// Width of a text control.
-    enum UIWidthSizePolicy {
+    enum UIWidthSizePolicy : int {
         ExtraSmall = 0, ///< 39 pixels, as for any number that isn't listed here
         Small = 1, ///< 69 pixels
         Medium = 2, ///< 158 pixels

@@ -11,7 +11,7 @@
 class COMMONUI_EXPORT CFxUIEvent {
 public:
     /// The numbers of QEvent::Type.
-    enum Type {
+    enum Type : int {
         None = 0,
         FocusIn = 8,
         FocusOut = 9,
@@ -110,7 +110,7 @@ protected:
 class COMMONUI_EXPORT CFxUIFocusEvent : public CFxUIEvent {
 public:
     /// The numbers of Qt::FocusReason.
-    enum FocusReason {
+    enum FocusReason : int {
         MouseFocusReason,
         TabFocusReason,
         BacktabFocusReason,
