@@ -31,5 +31,5 @@ void CFxUITimerImpl::StopImpl()
 
 void CFxUITimerImpl::SingleShotImpl(int msec, std::function<void()> callable)
 {
-    QTimer::singleShot(msec, [callable = std::move(callable)] { callable(); });
+    QTimer::singleShot(msec, std::move(callable)); // clazy:exclude=connect-3arg-lambda
 }
