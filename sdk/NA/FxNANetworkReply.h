@@ -24,7 +24,7 @@ class COMMONUI_EXPORT CFxNANetworkReply : public CFxUIObject {
 public:
     /// What went wrong, QNetworkReply::NetworkError. A time-out of the request is reported as
     /// OperationCanceledError, like abort().
-    enum NetworkError {
+    enum NetworkError : int {
         NoError = 0,
         ConnectionRefusedError = 1,
         RemoteHostClosedError = 2,

@@ -20,7 +20,7 @@ class QNetworkRequest;
 class COMMONUI_EXPORT CFxNANetworkRequest {
 public:
     /// Headers by number, QNetworkRequest::KnownHeaders.
-    enum KnownHeaders {
+    enum KnownHeaders : int {
         ContentTypeHeader = 0,
         ContentLengthHeader = 1,
         LocationHeader = 2,
@@ -37,7 +37,7 @@ public:
     };
 
     /// Attributes of a reply, QNetworkRequest::Attribute. A request has no operation that sets one.
-    enum Attribute {
+    enum Attribute : int {
         HttpStatusCodeAttribute = 0,
         HttpReasonPhraseAttribute = 1,
         RedirectionTargetAttribute = 2,

@@ -4,7 +4,7 @@
 class CFxNAWebSocketProtocol {
 public:
     /// Protocol version, QWebSocketProtocol::Version.
-    enum Version {
+    enum Version : int {
         VersionUnknown = -1,
         Version0 = 0,
         Version4 = 4,
@@ -17,7 +17,7 @@ public:
     };
 
     /// Status code of a close, QWebSocketProtocol::CloseCode (RFC 6455, section 7.4).
-    enum CloseCode {
+    enum CloseCode : int {
         CloseCodeNormal = 1000,
         CloseCodeGoingAway = 1001,
         CloseCodeProtocolError = 1002,
