@@ -1,0 +1,48 @@
+#include "UI/Impl/qt/frontend/FxUIVertLayoutFrontend.h"
+
+#include "UI/Impl/FxUIVerticalLayoutImpl.h"
+#include "UI/Impl/qt/frontend/FxWidgetSpinner.h"
+
+#include <QtGui/QKeyEvent>
+
+CFxUIVertLayoutFrontend::CFxUIVertLayoutFrontend()
+    : QGroupBox(nullptr)
+{
+}
+
+CFxUIVertLayoutFrontend::~CFxUIVertLayoutFrontend() = default;
+
+void CFxUIVertLayoutFrontend::startSpinner()
+{
+    m_spinner = new CFxWidgetSpinner(this);
+    m_spinner->StartSpinner();
+}
+
+void CFxUIVertLayoutFrontend::stopSpinner()
+{
+    if (!m_spinner)
+        return;
+    m_spinner->StopSpinner();
+    delete m_spinner;
+    m_spinner = nullptr;
+}
+
+void CFxUIVertLayoutFrontend::paintEvent(QPaintEvent *event)
+{
+    if (m_spinner)
+        m_spinner->paintEvent(event);
+    else
+        QGroupBox::paintEvent(event);
+}
+
+void CFxUIVertLayoutFrontend::keyPressEvent(QKeyEvent *event)
+{
+    if (impl)
+        impl->aboutToPassEventToParent().emit();
+    if (impl && impl->isEventAccepted()) {
+        event->accept();
+        impl->setEventAccepted(false);
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

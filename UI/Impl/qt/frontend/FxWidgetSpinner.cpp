@@ -1,0 +1,67 @@
+#include "UI/Impl/qt/frontend/FxWidgetSpinner.h"
+
+#include <QtGui/QMovie>
+#include <QtGui/QPainter>
+#include <QtGui/QPixmap>
+
+CFxWidgetSpinner::CFxWidgetSpinner(QWidget *widget)
+    : m_widget(widget)
+{
+    // A spinner that nobody stops ends with the widget that it spins on.
+    if (widget)
+        connect(widget, &QObject::destroyed, this, &QObject::deleteLater);
+}
+
+CFxWidgetSpinner::~CFxWidgetSpinner()
+{
+    delete m_movie;
+}
+
+void CFxWidgetSpinner::StartSpinner()
+{
+    if (!m_widget)
+        return;
+    QImage image(m_widget->size(), QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    m_widget->render(&painter, QPoint(0, 0), QRegion(),
+                     QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    painter.end();
+    m_snapshot = image;
+    if (m_movie)
+        return;
+    m_movie = new QMovie(QStringLiteral(":/commonui/resources/icons/spinner.gif"), QByteArray());
+    if (m_movie->isValid()) {
+        connect(m_movie, SIGNAL(frameChanged(int)), this, SLOT(on_FrameChanged(int)));
+        m_movie->start();
+    }
+}
+
+void CFxWidgetSpinner::StopSpinner()
+{
+    m_widget = nullptr;
+    if (!m_movie)
+        return;
+    disconnect(m_movie, SIGNAL(frameChanged(int)), this, SLOT(on_FrameChanged(int)));
+    delete m_movie;
+    m_movie = nullptr;
+}
+
+void CFxWidgetSpinner::paintEvent(QPaintEvent * /*event*/)
+{
+    if (!m_movie || !m_widget)
+        return;
+    const QPixmap frame = m_movie->currentPixmap();
+    const QPixmap snapshot = QPixmap::fromImage(m_snapshot);
+    QPainter painter(m_widget);
+    painter.setOpacity(0.15);
+    painter.drawPixmap(0, 0, snapshot);
+    painter.setOpacity(1.0);
+    painter.drawPixmap(m_widget->width() / 2, m_widget->height() / 2, frame);
+}
+
+void CFxWidgetSpinner::on_FrameChanged(int /*frame*/)
+{
+    if (m_widget)
+        m_widget->repaint();
+}
