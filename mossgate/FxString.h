@@ -8,7 +8,8 @@ public:
     CFxString(const QString &text);
     ~CFxString();
 
-    /// Replaces the text by a form that shows, as HTML, exactly the former characters.
+    /// Replaces the text by a form that shows, as HTML, exactly the former characters: markup shows
+    /// as characters, and blanks, tabs and line breaks stay. An empty text stays empty.
     void EncodeHTML();
 
     /// The current text; stays valid while the object lives and isn't changed.
