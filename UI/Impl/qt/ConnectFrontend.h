@@ -15,6 +15,13 @@ void ConnectFrontend(Frontend *frontend, Signal signal, Impl *impl, void (Impl::
         Qt::DirectConnection);
 }
 
+/// The same with any callable in place of a handler.
+template <class Frontend, class Signal, class Callable>
+void ConnectFrontend(Frontend *frontend, Signal signal, Callable callable)
+{
+    QObject::connect(frontend, signal, frontend, std::move(callable), Qt::DirectConnection);
+}
+
 /// Cuts every connection from \a frontend to itself, and so those that ConnectFrontend() has made.
 /// A Qt object can outlive its public object until the event loop next runs, and a handler must not
 /// be called for it any more.
