@@ -27,7 +27,8 @@ public:
         });
         reply->finished().connect([this] {
             ++ends;
-            if (reply->bytesAvailable() > 0) // an aborted Qt reply is closed and warns of reading
+            // An aborted Qt reply is closed and warns of reading.
+            if (static_cast<QNetworkReply *>(reply->getHandle())->isOpen())
                 body.append(reply->readAll());
             m_loop.quit();
         });
