@@ -1,0 +1,6 @@
+#include "SignalLog.h"
+
+void SignalLog::LogSignal(const QString &object, const QString &signal, const QString &arguments)
+{
+    Q_EMIT logged(++m_count, object, signal, arguments);
+}
