@@ -10,30 +10,22 @@ constexpr int Margin = 20;
 constexpr int Spacing = 8;
 constexpr int ColumnSpacing = 14;
 constexpr int CaptionWidth = 150;
-constexpr int RowHeight = 28;
+constexpr int RowHeight = 32;
 constexpr int HeadingSpacing = 6; // above a heading, beside Spacing
 constexpr int AnswerHeight = 40; // two lines, so that a first signal moves nothing
 
-// The column of the control: a control of a fixed width stands at its left, and one that isn't tall
-// keeps its own height in the middle. Empty views take the rest.
-CFxUIBaseView *MakeCell(CFxUIBaseView *control, bool tall)
+// The column of the control. The empty view takes what a control of a fixed width leaves, so that
+// it stands at the left.
+CFxUIBaseView *MakeCell(CFxUIBaseView *control)
 {
-    auto *line = new CFxUIHorizontalLayout;
-    line->setSpacing(0);
-    line->addView(control, 1);
-    line->addView(new CFxUIHorizontalLayout);
-
-    auto *cell = new CFxUIVerticalLayout;
+    auto *rest = new CFxUIHorizontalLayout;
+    rest->setMinimumWidth(1);
+    auto *cell = new CFxUIHorizontalLayout;
     cell->setSpacing(0);
+    cell->addView(control, 1);
+    cell->addView(rest);
     cell->setMinimumWidth(GalleryPanel::ControlWidth);
     cell->setMaximumWidth(GalleryPanel::ControlWidth);
-    if (tall) {
-        cell->addView(line);
-        return cell;
-    }
-    cell->addView(new CFxUIVerticalLayout, 1);
-    cell->addView(line);
-    cell->addView(new CFxUIVerticalLayout, 1);
     return cell;
 }
 
@@ -87,6 +79,7 @@ void GalleryPanel::AddNote(const char *text)
 GalleryRow GalleryPanel::AddRow(const char *caption, CFxUIBaseView *control, Answers answers)
 {
     control->setMinimumHeight(RowHeight);
+    control->setMaximumHeight(RowHeight); // the row may be higher
     return AddColumns(caption, control, std::move(answers), false);
 }
 
@@ -133,7 +126,7 @@ GalleryRow GalleryPanel::AddColumns(const char *caption, CFxUIBaseView *control,
         answer->setTextAlignment(CFxUIBaseView::AlignLeft);
     }
 
-    CFxUIBaseView *cell = MakeCell(control, tall);
+    CFxUIBaseView *cell = MakeCell(control);
 
     auto *row = new CFxUIHorizontalLayout;
     row->setSpacing(ColumnSpacing);
