@@ -12,17 +12,12 @@
 
 namespace {
 
-enum class Blanks {
-    Value, ///< may stand anywhere in the value
-    Front ///< may only stand in front of the value
-};
-
 // The declarations that an edit takes away: "name : value;".
 struct Kind {
     std::string name;
-    std::string furtherLetters; ///< of the value, besides letters, 1 to 9 and blanks
-    Blanks blanks = Blanks::Front;
-    bool oneLetter = false; ///< the value is a single character
+    std::string
+        valueUnits; ///< what a value is made of; blanks in front of it may stand in any case
+    bool oneUnit = false; ///< the value is a single unit
     std::string nameEnd {}; ///< if not empty, small letters stand between it and the name
 };
 
@@ -69,7 +64,9 @@ private:
 };
 
 const std::string SmallLetters = "abcdefghijklmnopqrstuvwxyz";
-const std::string ValueLetters = SmallLetters + "ABCDEFGHIJKLMNOPQRSTUVWXYZ123456789";
+const std::string Letters = SmallLetters + "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+const std::string LettersAndDigits = Letters + "123456789"; // no 0
+const std::string Blanks = " \t";
 
 // Returns the position behind the declaration of this kind that starts at \a position, or 0.
 std::size_t MatchAt(const std::u16string &text, std::size_t position, const Kind &kind)
@@ -82,13 +79,12 @@ std::size_t MatchAt(const std::u16string &text, std::size_t position, const Kind
         if (!matcher.word(kind.nameEnd))
             return 0;
     }
-    matcher.run(" \t");
+    matcher.run(Blanks);
     if (!matcher.word(":"))
         return 0;
-    matcher.run(" \t");
-    const std::string blanks = kind.blanks == Blanks::Value ? " \t" : "";
-    const int length = matcher.run(ValueLetters + kind.furtherLetters + blanks);
-    if ((kind.oneLetter && length != 1) || !matcher.word(";"))
+    matcher.run(Blanks);
+    const int length = matcher.run(kind.valueUnits);
+    if ((kind.oneUnit && length != 1) || !matcher.word(";"))
         return 0;
     return matcher.position();
 }
@@ -121,15 +117,19 @@ std::u16string Edited(std::u16string text, const std::vector<Kind> &kinds,
         + text.substr(position);
 }
 
-const Kind Border { "border", "", Blanks::Value };
-const Kind BorderStyle { "border-style", "", Blanks::Value };
-const Kind BorderSideStyle { "border-", "", Blanks::Value, false, "-style" };
-const Kind BorderLeft { "border-left-width", "" };
-const Kind BorderTop { "border-top-width", "" };
-const Kind BorderRight { "border-right-width", "" };
-const Kind BorderBottom { "border-bottom-width", "" };
-const Kind BorderColor { "border-color", "", Blanks::Front, true };
-const Kind Background { "background-color", "#", Blanks::Value };
+const Kind Border { "border", LettersAndDigits + Blanks };
+const Kind BorderStyle { "border-style", LettersAndDigits + Blanks };
+const Kind BorderSideStyle { "border-", LettersAndDigits + Blanks, false, "-style" };
+const Kind BorderLeft { "border-left-width", LettersAndDigits };
+const Kind BorderTop { "border-top-width", LettersAndDigits };
+const Kind BorderRight { "border-right-width", LettersAndDigits };
+const Kind BorderBottom { "border-bottom-width", LettersAndDigits };
+const Kind BorderColor { "border-color", LettersAndDigits, true };
+const Kind Background { "background-color", LettersAndDigits + Blanks + "#" };
+const Kind TextAlign { "text-align", Letters + Blanks };
+const Kind FontWeight { "font-weight", Letters + Blanks };
+
+const std::string NoMenuArrow = "QPushButton::menu-indicator{image:url(none.jpg);}";
 
 using Operands = std::array<int, 4>;
 
@@ -165,6 +165,26 @@ std::string ColorName(const Operands &operands)
         name += HexadecimalDigits[static_cast<std::size_t>(value % 16)];
     }
     return name;
+}
+
+std::u16string WithoutWord(const std::u16string &text, const std::string &word)
+{
+    std::u16string rest;
+    for (std::size_t position = 0; position < text.size();) {
+        Matcher matcher(text, position);
+        if (matcher.word(word))
+            position = matcher.position();
+        else
+            rest += text[position++];
+    }
+    return rest;
+}
+
+std::string TextAlignDeclaration(int alignment)
+{
+    const std::array<std::string, 3> sides { "left", "right", "center" };
+    const auto index = static_cast<std::size_t>(alignment);
+    return index < sides.size() ? "text-align:" + sides[index] + ";" : std::string();
 }
 
 struct Edit {
@@ -209,6 +229,27 @@ const Edit Edits[] = {
      },
       [](const std::u16string &sheet, const Operands &operands) {
           return Edited(sheet, { Background }, "background-color: " + ColorName(operands) + ";", 0);
+      } },
+    { [](const QString &sheet, const Operands &operands) {
+         return StyleSheetEdit::WithTextAlignment(
+             sheet, static_cast<CFxUIBaseView::TextAlignment>(operands[0]));
+     },
+      [](const std::u16string &sheet, const Operands &operands) {
+          return Edited(sheet, { TextAlign }, TextAlignDeclaration(operands[0]), 0);
+      } },
+    { [](const QString &sheet, const Operands &operands) {
+         return StyleSheetEdit::WithBoldText(sheet, operands[0] > 0);
+     },
+      [](const std::u16string &sheet, const Operands &operands) {
+          return Edited(sheet, { FontWeight },
+                        operands[0] > 0 ? "font-weight: bold;" : "font-weight: normal;", 0);
+      } },
+    { [](const QString &sheet, const Operands &operands) {
+         return StyleSheetEdit::WithMenuArrow(sheet, operands[0] > 0);
+     },
+      [](const std::u16string &sheet, const Operands &operands) {
+          return operands[0] > 0 ? WithoutWord(sheet, NoMenuArrow)
+                                 : sheet + std::u16string(NoMenuArrow.begin(), NoMenuArrow.end());
       } },
 };
 

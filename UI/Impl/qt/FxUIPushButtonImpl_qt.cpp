@@ -7,36 +7,6 @@
 
 #include <QtWidgets/QMenu>
 
-namespace {
-
-// The backslashes are the expression's own.
-const QString TextAlign = QStringLiteral("text-align[ \\t]*:[ \\ta-zA-Z]*;");
-const QString FontWeight = QStringLiteral("font-weight[ \\t]*:[ \\ta-zA-Z]*;");
-
-// There is no such file: Qt finds no picture and draws no arrow.
-const QString NoMenuArrow = QStringLiteral("QPushButton::menu-indicator{image:url(none.jpg);}");
-
-QString TextAlignDeclaration(CFxUIBaseView::TextAlignment alignment)
-{
-    switch (alignment) {
-    case CFxUIBaseView::AlignLeft:
-        return QStringLiteral("text-align:left;");
-    case CFxUIBaseView::AlignRight:
-        return QStringLiteral("text-align:right;");
-    case CFxUIBaseView::AlignCenter:
-        return QStringLiteral("text-align:center;");
-    }
-    return QString();
-}
-
-void ReplaceDeclaration(QWidget *widget, const QString &pattern, const QString &declaration)
-{
-    widget->setStyleSheet(StyleSheetEdit::Replace(widget->styleSheet(), { pattern }, declaration,
-                                                  StyleSheetEdit::Brace::Anywhere));
-}
-
-} // namespace
-
 QString CFxUIPushButtonImpl::GetFrontendClassName()
 {
     return QStringLiteral("CFxUIPushButtonFrontend");
@@ -77,15 +47,13 @@ void CFxUIPushButtonImpl::SetIconSizeImpl(const QSize &size)
 void CFxUIPushButtonImpl::SetTextAlignmentImpl(CFxUIBaseView::TextAlignment alignment)
 {
     if (auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner))
-        ReplaceDeclaration(button, TextAlign, TextAlignDeclaration(alignment));
+        button->setStyleSheet(StyleSheetEdit::WithTextAlignment(button->styleSheet(), alignment));
 }
 
 void CFxUIPushButtonImpl::SetBoldTextImpl(bool bold)
 {
     if (auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner))
-        ReplaceDeclaration(button, FontWeight,
-                           bold ? QStringLiteral("font-weight: bold;")
-                                : QStringLiteral("font-weight: normal;"));
+        button->setStyleSheet(StyleSheetEdit::WithBoldText(button->styleSheet(), bold));
 }
 
 void CFxUIPushButtonImpl::SetToolTipImpl(const QString &toolTip)
@@ -111,15 +79,8 @@ void CFxUIPushButtonImpl::SetMenuImpl(CFxUIMenu *menu)
 // Hiding appends the rule without a test whether it is there; showing removes every one. Intended.
 void CFxUIPushButtonImpl::SetMenuArrowVisibleImpl(bool visible)
 {
-    auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner);
-    if (!button)
-        return;
-    QString sheet = button->styleSheet();
-    if (visible)
-        sheet.replace(NoMenuArrow, QString());
-    else
-        sheet.append(NoMenuArrow);
-    button->setStyleSheet(sheet);
+    if (auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner))
+        button->setStyleSheet(StyleSheetEdit::WithMenuArrow(button->styleSheet(), visible));
 }
 
 void CFxUIPushButtonImpl::DetachFrontendImpl()

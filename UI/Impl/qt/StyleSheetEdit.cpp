@@ -14,6 +14,25 @@ const QString BorderBottomWidth = QStringLiteral("border-bottom-width[ \t]*:[ \t
 // A class without a repeat: it matches a value of one character. Intended.
 const QString BorderColor = QStringLiteral("border-color[ \t]*:[ \t]*[1-9a-zA-Z];");
 const QString BackgroundColor = QStringLiteral("background-color[ \t]*:[ \t#a-zA-Z1-9]*;");
+// The backslashes are the expression's own.
+const QString TextAlign = QStringLiteral("text-align[ \\t]*:[ \\ta-zA-Z]*;");
+const QString FontWeight = QStringLiteral("font-weight[ \\t]*:[ \\ta-zA-Z]*;");
+
+// There is no such file: Qt finds no picture and draws no arrow.
+const QString NoMenuArrow = QStringLiteral("QPushButton::menu-indicator{image:url(none.jpg);}");
+
+QString TextAlignDeclaration(CFxUIBaseView::TextAlignment alignment)
+{
+    switch (alignment) {
+    case CFxUIBaseView::AlignLeft:
+        return QStringLiteral("text-align:left;");
+    case CFxUIBaseView::AlignRight:
+        return QStringLiteral("text-align:right;");
+    case CFxUIBaseView::AlignCenter:
+        return QStringLiteral("text-align:center;");
+    }
+    return QString();
+}
 
 QString Number(float value)
 {
@@ -67,4 +86,26 @@ QString StyleSheetEdit::WithBackgroundColor(const QString &sheet, const QColor &
 {
     return Replace(sheet, { BackgroundColor },
                    QStringLiteral("background-color: %1;").arg(color.name()), Brace::Anywhere);
+}
+
+QString StyleSheetEdit::WithTextAlignment(const QString &sheet,
+                                          CFxUIBaseView::TextAlignment alignment)
+{
+    return Replace(sheet, { TextAlign }, TextAlignDeclaration(alignment), Brace::Anywhere);
+}
+
+QString StyleSheetEdit::WithBoldText(const QString &sheet, bool bold)
+{
+    return Replace(sheet, { FontWeight },
+                   bold ? QStringLiteral("font-weight: bold;")
+                        : QStringLiteral("font-weight: normal;"),
+                   Brace::Anywhere);
+}
+
+QString StyleSheetEdit::WithMenuArrow(const QString &sheet, bool visible)
+{
+    if (!visible)
+        return sheet + NoMenuArrow;
+    QString text = sheet;
+    return text.replace(NoMenuArrow, QString(), Qt::CaseSensitive);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/FxUIBaseView.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtGui/QColor>
@@ -25,5 +27,13 @@ QString WithBorderWidth(const QString &sheet, float width);
 QString WithBorderWidths(const QString &sheet, float left, float top, float right, float bottom);
 QString WithBorderColor(const QString &sheet, const QColor &color);
 QString WithBackgroundColor(const QString &sheet, const QColor &color);
+
+/// An alignment that has no name gives no declaration; an earlier one goes all the same.
+QString WithTextAlignment(const QString &sheet, CFxUIBaseView::TextAlignment alignment);
+QString WithBoldText(const QString &sheet, bool bold);
+
+/// Without the arrow the sheet ends in a rule that takes it away, added whether it is there already
+/// or not; with the arrow all of these rules go.
+QString WithMenuArrow(const QString &sheet, bool visible);
 
 } // namespace StyleSheetEdit
