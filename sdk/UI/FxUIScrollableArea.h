@@ -15,8 +15,8 @@ public:
 
     /// Runs pending events, of all kinds (QCoreApplication::processEvents), then scrolls to the
     /// widget of \a view (QScrollArea::ensureWidgetVisible) with its maximum height as vertical
-    /// margin, and to the left edge. A widget without a maximum height has so large a margin that
-    /// the area scrolls to its end. Does nothing for a view without a widget.
+    /// margin, and to the left edge. Without a maximum height the widget comes to the middle. Does
+    /// nothing for a view without a widget.
     void scrollTo(CFxUIBaseView *view);
 
     /// Shows the horizontal scroll bar always, or never. Before the first call it is shown as
