@@ -1,9 +1,8 @@
 #include "UI/FxUICheckBox.h"
 
 #include "support/ControlContract.h"
-#include "support/EventRecorder.h"
 #include "support/TestMain.h"
-#include "UI/Impl/FxUICheckBoxImpl.h"
+#include "UI/Impl/FxUIObjectImpl.h"
 
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
@@ -29,38 +28,10 @@ QCheckBox *Widget(const CFxUICheckBox &box)
     return qobject_cast<QCheckBox *>(box.getHandle());
 }
 
-CFxUICheckBoxImpl *Impl(const CFxUICheckBox &box)
-{
-    return static_cast<CFxUICheckBoxImpl *>(box.impl);
-}
-
 CFxUICheckBox::CheckState Number(int state)
 {
     return static_cast<CFxUICheckBox::CheckState>(state);
 }
-
-// A check box under observation. Each line of the log ends with what isChecked() and checkState()
-// answer and with the state of the widget.
-struct Watched {
-    Watched()
-    {
-        log.Listen("stateChanged", box.stateChanged());
-        log.Listen("toggled", box.toggled());
-        log.Listen("clicked", box.clicked());
-        log.ListenToQt("Qt.stateChanged", Widget(box), &QCheckBox::stateChanged);
-    }
-
-    QString State() const
-    {
-        return QStringLiteral("%1 %2 widget %3")
-            .arg(box.isChecked() ? QStringLiteral("on") : QStringLiteral("off"))
-            .arg(box.checkState())
-            .arg(Widget(box)->checkState());
-    }
-
-    CFxUICheckBox box;
-    EventRecorder log { [this] { return State(); } };
-};
 
 } // namespace
 
@@ -74,27 +45,7 @@ private Q_SLOTS:
     void textGoesToTheWidget();
     void enumeratorsHaveTheNumbersOfQt_data();
     void enumeratorsHaveTheNumbersOfQt();
-    void clickEmitsEachSignalOnce();
-    void spaceEmitsEachSignalOnce();
-    void clicksPassThroughTheThirdState();
-    void setCheckedEmitsEachSignalTwice();
-    void setCheckedFalseOnAFreshBoxDoesNothing();
-    void setCheckedTwiceDoesNotReachTheWidgetAgain();
-    void setCheckStateEmitsEachSignalOnce_data();
-    void setCheckStateEmitsEachSignalOnce();
-    void setCheckStateTwiceEmitsOnce();
-    void partlyCheckedCountsAsChecked();
     void partlyCheckedTurnsTheThirdStateOnInTheWidgetAlone();
-    void numberOutsideTheEnumerationStaysUntilTheNextChange_data();
-    void numberOutsideTheEnumerationStaysUntilTheNextChange();
-    void numberOutsideTheEnumerationUnchecksACheckedBox();
-    void blockedBoxFollowsInSilence();
-    void slotThatBlocksSilencesWhatFollows();
-    void eachEmissionTestsTheBlockForItself();
-    void slotThatUnchecksInBetween();
-    void slotThatChecksAgainStopsAtTheComparison();
-    void handlerTakesAnyNumberButNamesItAsReceived();
-    void clickedIsNeverEmitted();
     void textSizeAndResourceIconChangeNothingVisible();
     void settersWithoutHandleKeepTheState();
     void widgetThatOutlivesTheBoxCallsNoHandler();
@@ -155,280 +106,12 @@ void tst_FxUICheckBox::enumeratorsHaveTheNumbersOfQt()
     QCOMPARE(int(box.checkState()), qtNumber);
 }
 
-void tst_FxUICheckBox::clickEmitsEachSignalOnce()
-{
-    Watched watched;
-    QTest::mouseClick(Widget(watched.box), Qt::LeftButton, Qt::NoModifier, QPoint(5, 12));
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("toggled(true) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2") }));
-    QTest::mouseClick(Widget(watched.box), Qt::LeftButton, Qt::NoModifier, QPoint(5, 12));
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0"),
-                            QStringLiteral("Qt.stateChanged(0) off 0 widget 0") }));
-}
-
-void tst_FxUICheckBox::spaceEmitsEachSignalOnce()
-{
-    Watched watched;
-    QTest::keyClick(Widget(watched.box), Qt::Key_Space);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("toggled(true) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2") }));
-}
-
-void tst_FxUICheckBox::clicksPassThroughTheThirdState()
-{
-    Watched watched;
-    watched.box.setTristate(true);
-    QVERIFY(watched.box.isTristate());
-    QVERIFY(Widget(watched.box)->isTristate());
-    for (int click = 0; click < 3; ++click)
-        QTest::keyClick(Widget(watched.box), Qt::Key_Space);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(1) on 1 widget 1"),
-                            QStringLiteral("toggled(true) on 1 widget 1"),
-                            QStringLiteral("Qt.stateChanged(1) on 1 widget 1"),
-                            QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("toggled(true) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0"),
-                            QStringLiteral("Qt.stateChanged(0) off 0 widget 0") }));
-}
-
-void tst_FxUICheckBox::setCheckedEmitsEachSignalTwice()
-{
-    Watched watched;
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("toggled(true) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("toggled(true) on 2 widget 2") }));
-    watched.box.setChecked(false);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0"),
-                            QStringLiteral("Qt.stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0") }));
-}
-
-void tst_FxUICheckBox::setCheckedFalseOnAFreshBoxDoesNothing()
-{
-    Watched watched;
-    watched.box.setChecked(false);
-    QCOMPARE(watched.log.Take(), QStringList());
-    QCOMPARE(Widget(watched.box)->checkState(), Qt::Unchecked);
-}
-
-void tst_FxUICheckBox::setCheckedTwiceDoesNotReachTheWidgetAgain()
-{
-    Watched watched;
-    watched.box.setChecked(true);
-    watched.log.Take();
-    {
-        // Behind the box's back: only a call that reaches the widget would set it right.
-        const QSignalBlocker blocker(Widget(watched.box));
-        Widget(watched.box)->setChecked(false);
-    }
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(), QStringList());
-    QCOMPARE(Widget(watched.box)->checkState(), Qt::Unchecked);
-    QVERIFY(watched.box.isChecked());
-}
-
-void tst_FxUICheckBox::setCheckStateEmitsEachSignalOnce_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("partly checked")
-        << 1
-        << QStringList { QStringLiteral("stateChanged(1) on 1 widget 1"),
-                         QStringLiteral("toggled(true) on 1 widget 1"),
-                         QStringLiteral("Qt.stateChanged(1) on 1 widget 1") };
-    QTest::newRow("checked") << 2
-                             << QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                                              QStringLiteral("toggled(true) on 2 widget 2"),
-                                              QStringLiteral("Qt.stateChanged(2) on 2 widget 2") };
-    QTest::newRow("unchecked, as it was") << 0 << QStringList();
-}
-
-void tst_FxUICheckBox::setCheckStateEmitsEachSignalOnce()
-{
-    QFETCH(int, state);
-    QFETCH(QStringList, lines);
-    Watched watched;
-    watched.box.setCheckState(Number(state));
-    QCOMPARE(watched.log.Take(), lines);
-}
-
-void tst_FxUICheckBox::setCheckStateTwiceEmitsOnce()
-{
-    Watched watched;
-    watched.box.setCheckState(CFxUICheckBox::PartiallyChecked);
-    watched.log.Take();
-    watched.box.setCheckState(CFxUICheckBox::PartiallyChecked);
-    QCOMPARE(watched.log.Take(), QStringList());
-}
-
-void tst_FxUICheckBox::partlyCheckedCountsAsChecked()
-{
-    Watched watched;
-    watched.box.setCheckState(CFxUICheckBox::PartiallyChecked);
-    QVERIFY(watched.box.isChecked());
-    watched.log.Take();
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(), QStringList());
-    QCOMPARE(Widget(watched.box)->checkState(), Qt::PartiallyChecked);
-    watched.box.setChecked(false);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0"),
-                            QStringLiteral("Qt.stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0") }));
-}
-
 void tst_FxUICheckBox::partlyCheckedTurnsTheThirdStateOnInTheWidgetAlone()
 {
     CFxUICheckBox box;
     box.setCheckState(CFxUICheckBox::PartiallyChecked);
     QVERIFY(Widget(box)->isTristate());
     QVERIFY(!box.isTristate());
-}
-
-void tst_FxUICheckBox::numberOutsideTheEnumerationStaysUntilTheNextChange_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::newRow("above") << 3;
-    QTest::newRow("far above") << 100000;
-    QTest::newRow("below") << -1;
-}
-
-void tst_FxUICheckBox::numberOutsideTheEnumerationStaysUntilTheNextChange()
-{
-    QFETCH(int, number);
-    Watched watched;
-    watched.box.setCheckState(Number(number));
-    QCOMPARE(int(watched.box.checkState()), number);
-    QVERIFY(!watched.box.isChecked());
-    QCOMPARE(Widget(watched.box)->checkState(), Qt::Unchecked);
-    QCOMPARE(watched.log.Take(), QStringList());
-    QTest::keyClick(Widget(watched.box), Qt::Key_Space);
-    QCOMPARE(watched.box.checkState(), CFxUICheckBox::Checked);
-}
-
-void tst_FxUICheckBox::numberOutsideTheEnumerationUnchecksACheckedBox()
-{
-    Watched watched;
-    watched.box.setCheckState(CFxUICheckBox::Checked);
-    watched.log.Take();
-    watched.box.setCheckState(Number(3));
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(0) off 0 widget 0"),
-                            QStringLiteral("toggled(false) off 0 widget 0"),
-                            QStringLiteral("Qt.stateChanged(0) off 0 widget 0") }));
-}
-
-void tst_FxUICheckBox::blockedBoxFollowsInSilence()
-{
-    Watched watched;
-    watched.box.blockSignals(true);
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(),
-             QStringList { QStringLiteral("Qt.stateChanged(2) on 2 widget 2") });
-    watched.box.setCheckState(CFxUICheckBox::PartiallyChecked);
-    QCOMPARE(watched.log.Take(),
-             QStringList { QStringLiteral("Qt.stateChanged(1) on 1 widget 1") });
-    QTest::keyClick(Widget(watched.box), Qt::Key_Space);
-    QCOMPARE(watched.log.Take(),
-             QStringList { QStringLiteral("Qt.stateChanged(2) on 2 widget 2") });
-}
-
-void tst_FxUICheckBox::slotThatBlocksSilencesWhatFollows()
-{
-    Watched watched;
-    watched.box.stateChanged().connect([&watched](int) { watched.box.blockSignals(true); });
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2") }));
-}
-
-void tst_FxUICheckBox::eachEmissionTestsTheBlockForItself()
-{
-    Watched watched;
-    watched.box.stateChanged().connect([&watched](int) { watched.box.blockSignals(true); });
-    connect(Widget(watched.box), &QCheckBox::stateChanged, this,
-            [&watched] { watched.box.blockSignals(false); });
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("Qt.stateChanged(2) on 2 widget 2"),
-                            QStringLiteral("stateChanged(2) on 2 widget 2") }));
-}
-
-void tst_FxUICheckBox::slotThatUnchecksInBetween()
-{
-    Watched watched;
-    bool done = false;
-    watched.box.stateChanged().connect([&](int) {
-        if (!std::exchange(done, true))
-            watched.box.setChecked(false);
-    });
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take(),
-             (QStringList {
-                 QStringLiteral("stateChanged(2) on 2 widget 2"),
-                 // the call from within, in full
-                 QStringLiteral("stateChanged(0) off 0 widget 0"),
-                 QStringLiteral("toggled(false) off 0 widget 0"),
-                 QStringLiteral("Qt.stateChanged(0) off 0 widget 0"),
-                 QStringLiteral("stateChanged(0) off 0 widget 0"),
-                 QStringLiteral("toggled(false) off 0 widget 0"),
-                 // the handler names what was reported, the setter what is so by then
-                 QStringLiteral("toggled(true) off 0 widget 0"),
-                 QStringLiteral("Qt.stateChanged(2) off 0 widget 0"),
-                 QStringLiteral("stateChanged(2) off 0 widget 0"),
-                 QStringLiteral("toggled(false) off 0 widget 0"),
-             }));
-}
-
-void tst_FxUICheckBox::slotThatChecksAgainStopsAtTheComparison()
-{
-    Watched watched;
-    watched.box.stateChanged().connect([&watched](int) { watched.box.setChecked(true); });
-    watched.box.setChecked(true);
-    QCOMPARE(watched.log.Take().size(), 5);
-}
-
-void tst_FxUICheckBox::handlerTakesAnyNumberButNamesItAsReceived()
-{
-    Watched watched;
-    Impl(watched.box)->OnSwitchChanged(7);
-    QCOMPARE(watched.log.Take(),
-             (QStringList { QStringLiteral("stateChanged(7) on 0 widget 0"),
-                            QStringLiteral("toggled(true) on 0 widget 0") }));
-}
-
-void tst_FxUICheckBox::clickedIsNeverEmitted()
-{
-    CFxUICheckBox box;
-    int clicks = 0;
-    box.clicked().connect([&clicks] { ++clicks; });
-    QCOMPARE(box.clicked().num_slots(), std::size_t(1));
-    QTest::mouseClick(Widget(box), Qt::LeftButton, Qt::NoModifier, QPoint(5, 12));
-    QVERIFY(box.isChecked());
-    Widget(box)->click();
-    box.setChecked(true);
-    box.setCheckState(CFxUICheckBox::PartiallyChecked);
-    QCOMPARE(clicks, 0);
 }
 
 void tst_FxUICheckBox::textSizeAndResourceIconChangeNothingVisible()

@@ -7,8 +7,18 @@
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <utility>
+
+/// The lines that a test expects.
+inline QStringList Lines(std::initializer_list<const char *> lines)
+{
+    QStringList list;
+    for (const char *line : lines)
+        list.append(QString::fromUtf8(line));
+    return list;
+}
 
 /// Writes down what is emitted, in order, and what a slot sees at that moment: one line for each
 /// emission, `name(arguments) state`, in which the test says what the state is.
