@@ -1,0 +1,57 @@
+#pragma once
+
+#include "UI/FxUIComboBox.h"
+#include "UI/Impl/FxUIComboBoxImpl.h"
+
+#include <QtGui/QIcon>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QComboBox>
+
+// What the tests of the combo box share.
+namespace ComboBoxTools {
+
+inline const QString A = QStringLiteral("a");
+inline const QString B = QStringLiteral("b");
+inline const QString C = QStringLiteral("c");
+
+inline QComboBox *Widget(const CFxUIComboBox &box)
+{
+    return qobject_cast<QComboBox *>(box.getHandle());
+}
+
+inline CFxUIComboBoxImpl *Impl(const CFxUIComboBox &box)
+{
+    return static_cast<CFxUIComboBoxImpl *>(box.impl);
+}
+
+inline QStringList Texts(const CFxUIComboBox &box)
+{
+    QStringList texts;
+    for (int i = 0; i < box.count(); ++i)
+        texts.append(box.itemText(i));
+    return texts;
+}
+
+inline QStringList WidgetTexts(const CFxUIComboBox &box)
+{
+    QStringList texts;
+    for (int i = 0; i < Widget(box)->count(); ++i)
+        texts.append(Widget(box)->itemText(i));
+    return texts;
+}
+
+inline void AddABC(CFxUIComboBox &box)
+{
+    box.addItem(A, 1);
+    box.addItem(B, 2);
+    box.addItem(C, 3);
+}
+
+inline QIcon Icon()
+{
+    QPixmap pixmap(8, 8);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+
+} // namespace ComboBoxTools
