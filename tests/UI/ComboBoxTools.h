@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/EventRecorder.h"
 #include "UI/FxUIComboBox.h"
 #include "UI/Impl/FxUIComboBoxImpl.h"
 
@@ -53,5 +54,39 @@ inline QIcon Icon()
     pixmap.fill(Qt::red);
     return QIcon(pixmap);
 }
+
+// A combo box under observation. Each line of the log ends with what currentIndex() and
+// currentText() answer and with the index and the text of the widget.
+struct Watched {
+    Watched()
+    {
+        log.Listen("activated", box.activated());
+        log.Listen("currentIndexChanged", box.currentIndexChanged());
+        log.Listen("currentStringChanged", box.currentStringChanged());
+        log.Listen("editTextChanged", box.editTextChanged());
+        log.Listen("editingFinished", box.editingFinished());
+        log.ListenToQt("Qt.currentIndexChanged", Widget(box),
+                       qOverload<int>(&QComboBox::currentIndexChanged));
+    }
+
+    QString State() const
+    {
+        return QStringLiteral("%1 '%2' widget %3 '%4'")
+            .arg(QString::number(box.currentIndex()), box.currentText(),
+                 QString::number(Widget(box)->currentIndex()), Widget(box)->currentText());
+    }
+
+    CFxUIComboBox box;
+    EventRecorder log { [this] { return State(); } };
+};
+
+// With the items "a", "b" and "c", of which the first is the current one; nothing is logged yet.
+struct WatchedABC : Watched {
+    WatchedABC()
+    {
+        AddABC(box);
+        log.Take();
+    }
+};
 
 } // namespace ComboBoxTools
