@@ -19,10 +19,11 @@ public:
     QString text() const;
     void setText(const QString &text);
 
-    /// Empties the text. An icon or pixmap that was set is shown no more, but stays stored.
+    /// Empties the text. An icon or pixmap stays, shown and stored.
     void clear();
 
-    /// Shows \a icon at 25 by 25 pixels, whatever its own size; a null icon shows nothing.
+    /// Shows \a icon at 25 by 25 pixels (QIcon::pixmap, which doesn't enlarge); a null icon shows
+    /// nothing.
     void setIcon(const QIcon &icon);
 
     /// Shows \a pixmap at its own size; a null pixmap shows nothing.
