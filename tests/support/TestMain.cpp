@@ -15,11 +15,13 @@ bool HasOutputOption(const QStringList &arguments)
     return arguments.contains(QStringLiteral("-o"));
 }
 
-// Qt's offscreen platform says this of each window with limits to its size, each menu and each
-// grab; no test can announce it for every platform.
+// What a platform says for reasons of its own, which no test can announce for every platform: the
+// offscreen one of each window with limits to its size, each menu and each grab; the X server's when
+// a request of Qt's or of the window manager's arrives for a window that has just gone.
 bool IsNoise(const QString &line)
 {
-    return line.contains(QLatin1String(" This plugin does not support "));
+    return line.contains(QLatin1String(" This plugin does not support "))
+        || line.contains(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"));
 }
 
 // The warnings in QtTest's own text log: those that a test announced aren't there.
