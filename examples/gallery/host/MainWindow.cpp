@@ -145,6 +145,7 @@ QWidget *MainWindow::MakeLogSide()
     m_lines->header()->resizeSection(1, 190);
     m_lines->header()->resizeSection(2, 160);
     auto *clear = new QPushButton(QStringLiteral("&Clear"));
+    clear->setObjectName(QStringLiteral("clear"));
     clear->setMinimumSize(80, 28);
     connect(clear, &QPushButton::clicked, m_lines, &QTreeWidget::clear);
 
