@@ -17,8 +17,9 @@ public:
     ~CFxUITextEdit() override;
 
     /// Does nothing for the text that stands already. Otherwise emits textChanged(), textEdited()
-    /// and textChanged() again, in this order; if an input mask leaves the widget's text as it was,
-    /// only the last one. An input mask can make text() differ from \a text.
+    /// and textChanged() again, in this order. Under an input mask text() is then what the widget
+    /// has made of \a text; if that leaves the widget as it was, only the last textChanged() is
+    /// emitted, and text() is \a text itself.
     void setText(const QString &text);
 
     /// Default: a null string.

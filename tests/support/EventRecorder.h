@@ -39,8 +39,8 @@ public:
         signal.connect(Writer<Args...>(name));
     }
 
-    template <class Sender, class... Args>
-    void ListenToQt(const char *name, Sender *sender, void (Sender::*signal)(Args...))
+    template <class Sender, class Class, class... Args>
+    void ListenToQt(const char *name, Sender *sender, void (Class::*signal)(Args...))
     {
         QObject::connect(sender, signal, sender, Writer<Args...>(name));
     }
