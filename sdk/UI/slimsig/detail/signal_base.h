@@ -3,6 +3,7 @@
 #include "basic_slot.h"
 #include "connection.h"
 #include "signal_traits.h"
+#include "slot_array.h"
 #include "verify.h"
 
 #include <algorithm>
@@ -31,13 +32,12 @@ namespace slimsig {
 /// all. One thread only. A signal must not be destroyed by one of its own slots.
 template <class SignalTraits, class Allocator, class R, class... Args>
 class signal_base<SignalTraits, Allocator, R(Args...)> {
-    static_assert(
-        std::is_same_v<
-            SignalTraits,
-            signal_traits<R(
-                Args...)>> && std::is_same_v<Allocator, std::allocator<std::function<R(Args...)>>>,
-        "a connection knows its signal by the signature alone, which thus fixes the traits "
-        "and the allocator");
+    static_assert(std::is_same_v<SignalTraits, signal_traits<R(Args...)>>,
+                  "a connection knows its signal by the signature, which thus fixes the traits");
+    static_assert(std::is_same_v<Allocator, std::allocator<std::function<R(Args...)>>>,
+                  "a connection knows its signal by the signature, which thus fixes the allocator");
+    static_assert(!(std::is_rvalue_reference_v<Args> || ...),
+                  "an argument that the first slot may consume cannot be passed to the others");
 
 public:
     using function_type = std::function<R(Args...)>;
@@ -77,10 +77,10 @@ public:
     /// Calls the slots in order of connection. Arguments passed by value are copied for each slot
     /// but the last, which gets them moved. Where Qt's emit macro is alive, use the call operator
     /// instead.
-    void emit(Args... args) { call_slots(args...); }
+    void emit(Args... args) { emit_unless_idle(args...); }
 
     /// Does the same as emit().
-    void operator()(Args... args) { call_slots(args...); }
+    void operator()(Args... args) { emit_unless_idle(args...); }
 
     /// Disconnects every slot. Inside an emission, none of them is called any more.
     void disconnect_all_slots()
@@ -118,7 +118,7 @@ protected:
         emit_scope(const emit_scope &) = delete;
         emit_scope &operator=(const emit_scope &) = delete;
 
-        ~emit_scope()
+        [[gnu::always_inline]] ~emit_scope()
         {
             if (--signal.depth != 0)
                 return;
@@ -170,13 +170,8 @@ private:
         std::forward_list<slot_array> outgrown;
     };
 
-    /// Where an emission stands: pointers while the array stays in place, indices when it has
-    /// moved.
-    struct cursor {
-        slot_type *first;
-        slot_type *current;
-        slot_type *last;
-    };
+    /// How emit() hands an argument on: what fits a register by value, anything else by reference.
+    template <class Arg> using handed = std::conditional_t<std::is_scalar_v<Arg>, Arg, Arg &>;
 
     /// Keeps every record in place while callables are copied, as an emission does.
     class copy_scope {
@@ -196,74 +191,127 @@ private:
         signal_base &signal;
     };
 
-    /// Marks the current record as running, also when an exception leaves it.
+    /// Marks a record as running, also when an exception leaves it. The record is told by its place
+    /// in the array, which may move meanwhile.
     class running_scope {
     public:
-        running_scope(signal_base &emitted, cursor &position) noexcept
+        running_scope(signal_base &emitted, slot_type *array, slot_type *called) noexcept
             : signal(emitted)
-            , at(position)
+            , first(array)
+            , slot(called)
         {
-            at.current->running = true;
+            slot->running = true;
         }
 
         running_scope(const running_scope &) = delete;
         running_scope &operator=(const running_scope &) = delete;
 
-        ~running_scope()
+        [[gnu::always_inline]] ~running_scope()
         {
-            if (signal.pending.data() != at.first)
-                signal.follow_array(at);
-            at.current->running = false;
+            if (signal.stands_at(first))
+                slot->running = false;
+            else
+                signal.leave_moved(first, slot);
         }
 
     private:
         signal_base &signal;
-        cursor &at;
+        slot_type *const first;
+        slot_type *const slot;
     };
 
-    void call_slots(Args &...args)
+    /// Leaves before anything else where there is nothing to call, as with most signals.
+    [[gnu::always_inline]] void emit_unless_idle(Args &...args)
     {
-        if (pending.empty() && (m_size | m_offset) == 0)
-            return;
+        if (!pending.empty())
+            call_slots(args...);
+        else if ((m_size | m_offset) != 0)
+            check_empty();
+    }
+
+    /// An emission without records, which can only fail.
+    [[gnu::noinline, gnu::cold]] void check_empty()
+    {
         const emit_scope scope(*this);
-        const size_type end = pending.size();
-        detail::verify(m_offset <= end, "m_offset <= end");
-        if (end == m_offset)
-            return;
-        slot_type *const first = pending.data();
-        cursor at { first, first + m_offset, first + last_index(end) };
-        for (; at.current != at.last; ++at.current) {
-            if (at.current->active)
-                call_slot(at, args...);
-        }
-        if (at.current->active)
-            call_slot(at, std::forward<Args>(args)...);
+        detail::verify(m_offset <= pending.size(), "m_offset <= end");
     }
 
-    template <class... Passed> void call_slot(cursor &at, Passed &&...passed)
+    bool stands_at(const slot_type *first) const noexcept
     {
-        slot_type &slot = *at.current;
-        const running_scope running(*this, at);
-        slot.function(std::forward<Passed>(passed)...);
+        return __builtin_expect(pending.data() == first, true);
     }
 
-    static size_type last_index(size_type end) noexcept
+    /// Walks by pointer, which is what most emissions are, and goes on by index once a slot has
+    /// made the array move. The last slot is taken apart, as it may have the arguments for good.
+    [[gnu::noinline]] void call_slots(handed<Args>... args)
+    {
+        const emit_scope scope(*this);
+        if (__builtin_expect(m_offset != 0, false))
+            return call_behind_offset(args...);
+        slot_type *const first = pending.data();
+        slot_type *const last = &pending.back();
+        slot_type *slot = first;
+        for (; slot != last; ++slot) {
+            if (!slot->active)
+                continue;
+            call_slot(first, slot, args...);
+            if (!stands_at(first))
+                return call_moved(first, slot, last, args...);
+        }
+        if (__builtin_expect(slot->active, true))
+            call_slot(first, slot, std::forward<Args>(args)...);
+    }
+
+    template <class... Passed>
+    [[gnu::always_inline]] void call_slot(slot_type *first, slot_type *slot, Passed &&...passed)
+    {
+        const running_scope running(*this, first, slot);
+        slot->function(std::forward<Passed>(passed)...);
+    }
+
+    [[gnu::noinline, gnu::cold]] void call_behind_offset(handed<Args>... args)
+    {
+        call_by_index(m_offset, pending.size(), args...);
+    }
+
+    [[gnu::noinline, gnu::cold]] void call_moved(const slot_type *first, const slot_type *slot,
+                                                 const slot_type *last, handed<Args>... args)
+    {
+        call_by_index(index_of(first, slot) + 1, index_of(first, last) + 1, args...);
+    }
+
+    void call_by_index(size_type next, size_type end, handed<Args>... args)
+    {
+        detail::verify(next <= end, "m_offset <= end");
+        if (next == end)
+            return;
+        for (const size_type last = index_of_last(end); next != last; ++next) {
+            if (pending[next].active)
+                call_slot(pending.data(), &pending[next], args...);
+        }
+        if (pending[next].active)
+            call_slot(pending.data(), &pending[next], std::forward<Args>(args)...);
+    }
+
+    static size_type index_of(const slot_type *first, const slot_type *slot) noexcept
+    {
+        return static_cast<size_type>(slot - first);
+    }
+
+    static size_type index_of_last(size_type end) noexcept
     {
         detail::verify(end > 0, "end > 0");
         return end - 1;
     }
 
-    /// Brings \a at to where the array is now. In the outermost emission no callable runs any more,
+    /// Ends a call that has moved the array. In the outermost emission no callable runs any more,
     /// so that the outgrown arrays can go.
-    void follow_array(cursor &at) noexcept
+    [[gnu::noinline, gnu::cold]] void leave_moved(const slot_type *first,
+                                                  const slot_type *slot) noexcept
     {
-        const std::ptrdiff_t current = at.current - at.first;
-        const std::ptrdiff_t last = at.last - at.first;
         if (depth == 1)
             release_outgrown();
-        at.first = pending.data();
-        at.current = at.first + current;
-        at.last = at.first + last;
+        pending[index_of(first, slot)].running = false;
     }
 
     std::forward_list<slot_array> &outgrown() noexcept
@@ -304,10 +352,10 @@ private:
     bool mostly_dead() const noexcept
     {
         const std::size_t dead = pending.size() - m_size;
-        return depth == 0 && dead > pending.size() / 2
-            && dead
-            == static_cast<std::size_t>(
-                   std::count_if(pending.begin(), pending.end(), is_disconnected));
+        if (depth > 0 || dead <= pending.size() / 2)
+            return false;
+        const auto inactive = std::count_if(pending.begin(), pending.end(), is_disconnected);
+        return dead == static_cast<std::size_t>(inactive);
     }
 
     slot_array grow()
@@ -344,61 +392,36 @@ private:
     /// Removes the dead records and keeps the order of the others. What a dead callable captured
     /// may connect, disconnect and emit when it is destroyed, or take the signal along: so each one
     /// is taken out of its record first, and the records leave when nobody's code can run any more.
-    void clean_up() noexcept
+    [[gnu::noinline, gnu::cold]] void clean_up() noexcept
     {
-        std::for_each_n(pending.begin(), std::min<size_type>(m_offset, pending.size()),
-                        [](slot_type &slot) { slot.active = false; });
+        const auto dead_end = pending.begin() + static_cast<std::ptrdiff_t>(m_offset);
+        std::for_each(pending.begin(), dead_end, [](slot_type &slot) { slot.active = false; });
         m_offset = 0;
-        const std::shared_ptr<const signal_holder> watched = holder;
-        for (std::size_t i = 0; i < pending.size(); ++i) {
-            if (!is_disconnected(pending[i]))
-                continue;
-            drop_callable(pending[i]);
+        if (const std::shared_ptr<const signal_holder> watched = holder) {
+            while (drop_dead_callables(*watched)) { }
             if (!watched->signal)
                 return;
         }
-        remove_dead();
+        detail::remove_inactive(pending);
         detail::verify(m_size == pending.size(), "m_size == pending.size()");
     }
 
-    static void drop_callable(slot_type &slot) noexcept
+    /// Returns whether there were any and the signal has survived it, which calls for another look.
+    bool drop_dead_callables(const signal_holder &watched) noexcept
     {
-        function_type dropped;
-        dropped.swap(slot.function);
-    }
-
-    /// Swaps the living forward, which neither copies nor destroys a callable, and cuts off the
-    /// rest.
-    void remove_dead() noexcept
-    {
-        auto kept = std::find_if(pending.begin(), pending.end(), is_disconnected);
-        for (auto slot = kept; slot != pending.end(); ++slot) {
-            if (slot->active)
-                slot->swap(*kept++);
+        bool dropped = false;
+        for (std::size_t i = 0; watched.signal && i < pending.size(); ++i) {
+            if (is_disconnected(pending[i]) && pending[i].function) {
+                detail::drop_callable(pending[i]);
+                dropped = true;
+            }
         }
-        pending.erase(kept, pending.end());
-    }
-
-    /// Returns the record with \a id, or null if it has left. Ids rise along the array, so that a
-    /// record never stands further back than as many places as its id is above the first.
-    slot_type *find_slot(slot_id id) noexcept
-    {
-        if (pending.empty() || id < pending.front().id)
-            return nullptr;
-        const auto furthest = std::min<slot_id>(id - pending.front().id, pending.size() - 1);
-        const auto past = pending.begin() + static_cast<std::ptrdiff_t>(furthest) + 1;
-        if (const auto guess = past - 1; guess->id == id)
-            return &*guess;
-        const auto found =
-            std::lower_bound(pending.begin(), past, id, [](const slot_type &slot, slot_id wanted) {
-                return slot.id < wanted;
-            });
-        return found != past && found->id == id ? &*found : nullptr;
+        return dropped && watched.signal;
     }
 
     bool is_connected(slot_id id) noexcept
     {
-        const slot_type *const slot = find_slot(id);
+        const slot_type *const slot = detail::find_slot(pending, id);
         return slot && slot->active;
     }
 
@@ -407,7 +430,7 @@ private:
     /// goes at once, and with the last connected slot all records.
     void disconnect_slot(slot_id id)
     {
-        slot_type *const slot = find_slot(id);
+        slot_type *const slot = detail::find_slot(pending, id);
         if (!slot || !slot->active)
             return;
         slot->active = false;
