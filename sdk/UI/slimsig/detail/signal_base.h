@@ -135,6 +135,13 @@ protected:
     /// True exactly for the records that a clean-up removes.
     static bool is_disconnected(const slot_type &slot) noexcept { return !slot.active; }
 
+    /// Returns the index of the last of \a end records.
+    static size_type index_of_last(size_type end) noexcept
+    {
+        detail::verify(end > 0, "end > 0");
+        return end - 1;
+    }
+
     /// Hands out the id of the record about to be added. The first call makes the holder.
     slot_id prepare_connection()
     {
@@ -296,12 +303,6 @@ private:
     static size_type index_of(const slot_type *first, const slot_type *slot) noexcept
     {
         return static_cast<size_type>(slot - first);
-    }
-
-    static size_type index_of_last(size_type end) noexcept
-    {
-        detail::verify(end > 0, "end > 0");
-        return end - 1;
     }
 
     /// Ends a call that has moved the array. In the outermost emission no callable runs any more,

@@ -1,0 +1,400 @@
+#include "SignalProbe.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+// Captured objects that come back to the signal when they are copied or destroyed, and signals that
+// go with what was captured.
+
+namespace {
+
+using VoidProbe = SignalProbe<void()>;
+using Connection = slimsig::connection<void()>;
+
+/// Runs an action when the last copy of the callable that captured it is destroyed.
+class AtEnd {
+public:
+    explicit AtEnd(std::function<void()> action)
+        : m_guard(nullptr, [action = std::move(action)](void *) { action(); })
+    {
+    }
+
+private:
+    std::shared_ptr<void> m_guard;
+};
+
+/// Returns a slot that does nothing and ends with \a action.
+std::function<void()> slotEndingWith(std::function<void()> action)
+{
+    return [end = AtEnd(std::move(action))] { (void)end; };
+}
+
+TEST(SignalLifetime, ACallableMayConnectAtItsEndInTheCleanUp)
+{
+    VoidProbe signal;
+    std::string calls;
+    Connection ending;
+    signal.connect([&] { ending.disconnect(); });
+    ending = signal.connect(slotEndingWith([&] {
+        for (int i = 0; i < 9; ++i)
+            signal.connect([&calls] { calls += 'n'; });
+    }));
+    signal.emit();
+    EXPECT_EQ(calls, "") << "connected after the emission";
+    EXPECT_EQ(signal.num_slots(), 10u);
+    EXPECT_TRUE(signal.isTidy());
+    signal.emit();
+    EXPECT_EQ(calls, "nnnnnnnnn");
+}
+
+TEST(SignalLifetime, ACallableMayDisconnectOthersAtItsEndInTheCleanUp)
+{
+    VoidProbe signal;
+    Connection ending;
+    Connection other;
+    signal.connect([&] { ending.disconnect(); });
+    other = signal.connect([] {});
+    ending = signal.connect(slotEndingWith([&] { other.disconnect(); }));
+    const Connection behind = signal.connect([] {});
+    signal.emit();
+    EXPECT_FALSE(other.connected());
+    EXPECT_TRUE(behind.connected());
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 2u);
+}
+
+TEST(SignalLifetime, ACallableMayFindOthersAtItsEndInTheCleanUp)
+{
+    VoidProbe signal;
+    std::vector<Connection> connections;
+    std::vector<bool> found;
+    signal.connect([&] {
+        for (const std::size_t i : { 0u, 2u, 4u })
+            connections[i].disconnect();
+    });
+    for (int i = 0; i < 6; ++i) {
+        connections.push_back(signal.connect(slotEndingWith([&] {
+            for (const Connection &connection : connections)
+                found.push_back(connection.connected());
+        })));
+    }
+    signal.emit();
+    ASSERT_EQ(found.size(), 18u);
+    for (std::size_t i = 0; i < found.size(); ++i)
+        EXPECT_EQ(found[i], i % 2 == 1);
+    found.clear();
+    signal.disconnect_all_slots();
+    EXPECT_EQ(found, std::vector<bool>(18, false));
+}
+
+TEST(SignalLifetime, ACallableMayEmitAtItsEndInTheCleanUp)
+{
+    VoidProbe signal;
+    int calls = 0;
+    Connection first;
+    Connection second;
+    first = signal.connect(slotEndingWith([&] { signal.emit(); }));
+    second = signal.connect(slotEndingWith([&] { signal.emit(); }));
+    signal.connect([&] {
+        ++calls;
+        first.disconnect();
+        second.disconnect();
+    });
+    signal.emit();
+    EXPECT_EQ(calls, 3);
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 1u);
+}
+
+TEST(SignalLifetime, ACallableMayDisconnectAllAtItsEndInTheCleanUp)
+{
+    VoidProbe signal;
+    Connection ending;
+    ending = signal.connect(slotEndingWith([&] { signal.disconnect_all_slots(); }));
+    signal.connect([&] { ending.disconnect(); });
+    signal.connect([] {});
+    signal.emit();
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.empty());
+}
+
+TEST(SignalLifetime, ACallableMayConnectAtItsEndInADisconnect)
+{
+    VoidProbe signal;
+    Connection ending = signal.connect(slotEndingWith([&] { signal.connect([] {}); }));
+    ending.disconnect();
+    EXPECT_EQ(signal.num_slots(), 1u);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, ACallableMayDisconnectAtItsEndInADisconnect)
+{
+    VoidProbe signal;
+    std::vector<Connection> chain(5);
+    for (std::size_t i = 0; i < chain.size(); ++i) {
+        chain[i] = signal.connect(slotEndingWith([&chain, i] {
+            if (i + 1 < chain.size())
+                chain[i + 1].disconnect();
+        }));
+    }
+    chain[0].disconnect();
+    EXPECT_TRUE(signal.empty());
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, ACallableMayConnectAtItsEndWhenAllAreDisconnected)
+{
+    VoidProbe signal;
+    for (int i = 0; i < 3; ++i)
+        signal.connect(slotEndingWith([&] { signal.connect([] {}); }));
+    signal.disconnect_all_slots();
+    EXPECT_EQ(signal.num_slots(), 3u);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, ACallableMayComeBackToASignalThatIsBeingDestroyed)
+{
+    std::optional<VoidProbe> signal(std::in_place);
+    Connection other = signal->connect([] {});
+    Connection late;
+    int ends = 0;
+    signal->connect(slotEndingWith([&] {
+        ++ends;
+        other.disconnect();
+        EXPECT_FALSE(other.connected());
+        late = signal->connect(slotEndingWith([&] { ++ends; }));
+        signal->emit();
+        signal->disconnect_all_slots();
+    }));
+    signal.reset();
+    EXPECT_EQ(ends, 2);
+    EXPECT_FALSE(late.connected());
+    late.disconnect();
+}
+
+TEST(SignalLifetime, ASlotConnectedWhileTheSignalIsDestroyedGoesWithIt)
+{
+    std::optional<VoidProbe> signal(std::in_place);
+    const auto captured = std::make_shared<int>();
+    Connection late;
+    signal->connect(slotEndingWith([&] { late = signal->connect([captured] {}); }));
+    signal.reset();
+    EXPECT_FALSE(late.connected());
+    late.disconnect();
+    EXPECT_EQ(captured.use_count(), 1);
+}
+
+TEST(SignalLifetime, TheSlotsOfADestroyedSignalEndFirstToLast)
+{
+    std::string ends;
+    {
+        VoidProbe signal;
+        for (const char name : { 'a', 'b', 'c' })
+            signal.connect(slotEndingWith([&ends, name] { ends += name; }));
+    }
+    EXPECT_EQ(ends, "abc");
+}
+
+TEST(SignalLifetime, DisconnectedCallablesEndFirstToLastInTheCleanUp)
+{
+    VoidProbe signal;
+    std::string ends;
+    std::vector<Connection> connections;
+    for (const char name : { 'a', 'b', 'c', 'd' })
+        connections.push_back(signal.connect(slotEndingWith([&ends, name] { ends += name; })));
+    signal.connect([&] {
+        for (const std::size_t i : { 3u, 0u, 2u })
+            connections[i].disconnect();
+    });
+    signal.emit();
+    EXPECT_EQ(ends, "acd");
+}
+
+TEST(SignalLifetime, ADisconnectedCallableMayOwnTheSignal)
+{
+    auto owner = std::make_shared<VoidProbe>();
+    const std::weak_ptr<VoidProbe> watched = owner;
+    Connection connection = owner->connect([owner] {});
+    owner.reset();
+    EXPECT_FALSE(watched.expired());
+    connection.disconnect();
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST(SignalLifetime, ACleanUpMayTakeTheSignalAlong)
+{
+    auto owner = std::make_shared<VoidProbe>();
+    const std::weak_ptr<VoidProbe> watched = owner;
+    std::vector<Connection> connections;
+    VoidProbe &signal = *owner;
+    connections.push_back(signal.connect([] {}));
+    connections.push_back(signal.connect([owner] {}));
+    connections.push_back(signal.connect([] {}));
+    signal.connect([&connections] {
+        for (Connection &connection : connections)
+            connection.disconnect();
+    });
+    owner.reset();
+    signal.emit();
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST(SignalLifetime, OutgrownCallablesMayComeBackToTheSignalAtTheirEnd)
+{
+    /// Comes back to the signal at the end of each copy.
+    struct Returning {
+        VoidProbe *signal;
+        int *left;
+
+        Returning(VoidProbe *owner, int *budget)
+            : signal(owner)
+            , left(budget)
+        {
+        }
+
+        Returning(const Returning &) = default;
+
+        ~Returning()
+        {
+            if (*left > 0) {
+                --*left;
+                signal->connect([] {});
+            }
+        }
+
+        void operator()() const
+        {
+            signal->connect([] {});
+        }
+    };
+
+    VoidProbe signal;
+    int budget = 0;
+    signal.connect(Returning(&signal, &budget));
+    budget = 50;
+    signal.connect([] {});
+    for (int i = 0; i < 10; ++i)
+        signal.emit();
+    EXPECT_LT(budget, 50);
+    EXPECT_EQ(signal.num_slots(), 12u + static_cast<unsigned>(50 - budget));
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, CallablesMayComeBackToTheSignalWhenTheyAreCopied)
+{
+    struct Returning {
+        VoidProbe *signal;
+        Connection *other;
+        int *left;
+
+        Returning(VoidProbe *owner, Connection *dropped, int *budget)
+            : signal(owner)
+            , other(dropped)
+            , left(budget)
+        {
+        }
+
+        Returning(const Returning &from)
+            : signal(from.signal)
+            , other(from.other)
+            , left(from.left)
+        {
+            if (*left > 0) {
+                --*left;
+                signal->connect([] {});
+                other->disconnect();
+                signal->emit();
+            }
+        }
+
+        void operator()() const { }
+    };
+
+    VoidProbe signal;
+    int budget = 0;
+    Connection other = signal.connect([] {});
+    signal.connect(Returning(&signal, &other, &budget));
+    budget = 20;
+    for (int i = 0; i < 40; ++i)
+        signal.connect([] {});
+    EXPECT_EQ(budget, 0);
+    EXPECT_FALSE(other.connected());
+    EXPECT_EQ(signal.num_slots(), 61u);
+    EXPECT_TRUE(signal.isWhole());
+    signal.emit();
+    EXPECT_TRUE(signal.isTidy());
+}
+
+/// Does something random to the signal when it ends, as often as the budget lasts.
+class RandomEnd {
+public:
+    RandomEnd(VoidProbe &signal, std::vector<Connection> &connections, std::mt19937 &random,
+              int &budget)
+        : m_action([&signal, &connections, &random, &budget] {
+            if (budget-- > 0)
+                act(signal, connections, random, budget);
+        })
+    {
+    }
+
+    static void act(VoidProbe &signal, std::vector<Connection> &connections, std::mt19937 &random,
+                    int &budget)
+    {
+        switch (random() % 6) {
+        case 0:
+        case 1:
+            connections.push_back(signal.connect(
+                [end = RandomEnd(signal, connections, random, budget)] { end.run(); }));
+            break;
+        case 2:
+        case 3:
+            if (!connections.empty()) {
+                Connection picked = connections[random() % connections.size()];
+                picked.disconnect();
+            }
+            break;
+        case 4:
+            if (signal.depth < 3)
+                signal.emit();
+            break;
+        default:
+            if (random() % 8 == 0)
+                signal.disconnect_all_slots();
+        }
+    }
+
+    void run() const { m_action(); }
+
+private:
+    std::function<void()> m_action;
+    AtEnd m_end { m_action };
+};
+
+TEST(SignalLifetime, RandomEndsLeaveTheSignalWhole)
+{
+    for (unsigned seed = 0; seed < 3'000; ++seed) {
+        std::mt19937 random(seed);
+        std::vector<Connection> connections;
+        int budget = 150;
+        {
+            VoidProbe signal;
+            for (int step = 0; step < 20; ++step) {
+                RandomEnd::act(signal, connections, random, budget);
+                ASSERT_TRUE(signal.isWhole()) << "seed " << seed << " step " << step;
+            }
+            signal.emit();
+            ASSERT_TRUE(signal.isWhole()) << "seed " << seed;
+        }
+        for (Connection &connection : connections) {
+            ASSERT_FALSE(connection.connected()) << "seed " << seed;
+            connection.disconnect();
+        }
+    }
+}
+
+} // namespace

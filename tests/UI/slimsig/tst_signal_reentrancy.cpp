@@ -1,0 +1,378 @@
+#include "SignalProbe.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+// What slots do to the signal that is calling them.
+
+namespace {
+
+using VoidProbe = SignalProbe<void()>;
+using Connection = slimsig::connection<void()>;
+
+TEST(SignalReentrancy, ASlotConnectedDuringAnEmissionIsCalledFromTheNextOn)
+{
+    VoidProbe signal;
+    std::string calls;
+    bool connected = false;
+    signal.connect([&] {
+        calls += 'a';
+        if (!connected)
+            signal.connect([&calls] { calls += 'n'; });
+        connected = true;
+    });
+    signal.connect([&calls] { calls += 'b'; });
+    signal.emit();
+    EXPECT_EQ(calls, "ab");
+    signal.emit();
+    EXPECT_EQ(calls, "ababn");
+}
+
+TEST(SignalReentrancy, AGrowingArrayDoesNotDisturbTheWalk)
+{
+    VoidProbe signal;
+    std::string calls;
+    const auto connectMany = [&] {
+        for (int i = 0; i < 20; ++i)
+            signal.connect([] {});
+    };
+    signal.connect([&calls] { calls += 'a'; });
+    signal.connect([&] { calls += 'b', connectMany(); });
+    signal.connect([&] { calls += 'c', connectMany(); });
+    signal.connect([&calls] { calls += 'd'; });
+    signal.emit();
+    EXPECT_EQ(calls, "abcd");
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 44u);
+}
+
+TEST(SignalReentrancy, ASlotKeepsItsCapturedStateWhenItMakesTheArrayGrow)
+{
+    Signal<void(int)> signal;
+    const std::string text = "long enough to live on the heap, not in the string itself";
+    std::vector<std::string> seen;
+    signal.connect([&signal, &seen, text](int) {
+        for (int i = 0; i < 9; ++i)
+            signal.connect([](int) {});
+        seen.push_back(text);
+    });
+    signal.emit(1);
+    EXPECT_EQ(seen, std::vector<std::string> { text });
+}
+
+TEST(SignalReentrancy, ASmallCallableKeepsItsCapturedStateWhenItMakesTheArrayGrow)
+{
+    VoidProbe signal;
+    int calls = 0;
+    int *const counter = &calls;
+    VoidProbe *const probe = &signal;
+    signal.connect([probe, counter] {
+        probe->connect([] {});
+        ++*counter;
+    });
+    signal.emit();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(SignalReentrancy, RunningIsClearedThroughTheIndexWhenTheArrayHasMoved)
+{
+    VoidProbe signal;
+    signal.connect([] {});
+    signal.connect([&signal] {
+        const auto *const before = signal.pending.data();
+        while (signal.pending.data() == before)
+            signal.connect([] {});
+        EXPECT_TRUE(signal.pending[1].running) << "the flag is copied with the record";
+    });
+    signal.emit();
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, TheLastSlotMayMakeTheArrayGrowToo)
+{
+    VoidProbe signal;
+    const std::string text = "long enough to live on the heap, not in the string itself";
+    std::string seen;
+    signal.connect([&, text] {
+        signal.connect([] {});
+        seen = text;
+    });
+    signal.emit();
+    EXPECT_EQ(seen, text);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, OutgrownArraysStayWhileAnyOuterCallRuns)
+{
+    VoidProbe signal;
+    const auto alive = std::make_shared<int>(1);
+    std::string calls;
+    signal.connect([&signal, &calls, text = std::string(40, 'x')] {
+        if (signal.depth < 4)
+            signal.emit();
+        for (int i = 0; i < 5; ++i)
+            signal.connect([] {});
+        calls += text.substr(0, 1);
+    });
+    signal.connect([alive] { EXPECT_EQ(*alive, 1); });
+    signal.emit();
+    EXPECT_EQ(calls, "xxxx");
+    EXPECT_EQ(alive.use_count(), 2) << "the copies in outgrown arrays are gone";
+}
+
+TEST(SignalReentrancy, ANestedEmissionStartsOverAndRunsTheRunningSlot)
+{
+    VoidProbe signal;
+    std::string calls;
+    signal.connect([&calls] { calls += 'a'; });
+    signal.connect([&] {
+        calls += 'b';
+        if (signal.depth == 1)
+            signal.emit();
+    });
+    signal.connect([&calls] { calls += 'c'; });
+    signal.emit();
+    EXPECT_EQ(calls, "ababcc");
+}
+
+TEST(SignalReentrancy, ANestedEmissionReachesWhatWasConnectedBeforeIt)
+{
+    VoidProbe signal;
+    std::string calls;
+    signal.connect([&] {
+        if (signal.depth > 1)
+            return;
+        signal.connect([&calls] { calls += 'n'; });
+        signal.emit();
+        calls += '|';
+    });
+    signal.emit();
+    EXPECT_EQ(calls, "n|");
+}
+
+TEST(SignalReentrancy, TheEndOfANestedEmissionClearsRunningOfTheReenteredRecord)
+{
+    VoidProbe signal;
+    std::vector<bool> running;
+    signal.connect([&] {
+        if (signal.depth > 1)
+            return;
+        running.push_back(signal.pending[0].running);
+        signal.emit();
+        running.push_back(signal.pending[0].running);
+    });
+    signal.emit();
+    EXPECT_EQ(running, (std::vector<bool> { true, false })) << "the flag is not a count";
+}
+
+TEST(SignalReentrancy, ANestedEmissionDoesNotCleanUp)
+{
+    VoidProbe signal;
+    Connection second;
+    std::size_t inside = 0;
+    signal.connect([&] {
+        if (signal.depth > 1)
+            return;
+        second.disconnect();
+        signal.emit();
+        inside = signal.pending.size();
+    });
+    second = signal.connect([] {});
+    signal.emit();
+    EXPECT_EQ(inside, 2u);
+    EXPECT_EQ(signal.pending.size(), 1u);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, ASlotThatDisconnectsItselfStaysUntilTheEmissionEnds)
+{
+    VoidProbe signal;
+    Connection self;
+    std::string calls;
+    self = signal.connect([&] {
+        calls += 'a';
+        self.disconnect();
+        EXPECT_EQ(signal.pending.size(), 2u);
+        EXPECT_FALSE(signal.pending[0].active);
+        EXPECT_EQ(signal.num_slots(), 1u);
+    });
+    signal.connect([&calls] { calls += 'b'; });
+    signal.emit();
+    EXPECT_EQ(signal.pending.size(), 1u);
+    EXPECT_TRUE(signal.isTidy());
+    signal.emit();
+    EXPECT_EQ(calls, "abb");
+}
+
+TEST(SignalReentrancy, ASlotDisconnectedByAnEarlierOneIsNotCalled)
+{
+    VoidProbe signal;
+    Connection middle;
+    Connection last;
+    std::string calls;
+    signal.connect([&] {
+        calls += 'a';
+        middle.disconnect();
+        last.disconnect();
+        EXPECT_EQ(signal.pending.size(), 4u);
+    });
+    middle = signal.connect([&calls] { calls += 'b'; });
+    signal.connect([&calls] { calls += 'c'; });
+    last = signal.connect([&calls] { calls += 'd'; });
+    signal.emit();
+    EXPECT_EQ(calls, "ac");
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 2u);
+}
+
+TEST(SignalReentrancy, AnEarlierSlotThatIsDisconnectedHasRunAlready)
+{
+    VoidProbe signal;
+    Connection first;
+    std::string calls;
+    first = signal.connect([&calls] { calls += 'a'; });
+    signal.connect([&] {
+        calls += 'b';
+        first.disconnect();
+        EXPECT_EQ(signal.pending.size(), 2u);
+    });
+    signal.emit();
+    EXPECT_EQ(calls, "ab");
+    ASSERT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.pending[0].id, 1u);
+}
+
+TEST(SignalReentrancy, ADisconnectInANestedEmissionHoldsForTheOuterOne)
+{
+    VoidProbe signal;
+    Connection last;
+    std::string calls;
+    signal.connect([&] {
+        if (signal.depth == 1)
+            signal.emit();
+        else
+            last.disconnect();
+    });
+    signal.connect([&calls] { calls += 'b'; });
+    last = signal.connect([&calls] { calls += 'c'; });
+    signal.emit();
+    EXPECT_EQ(calls, "bb");
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, TheCleanUpKeepsTheOrderOfTheOthers)
+{
+    VoidProbe signal;
+    std::vector<Connection> connections;
+    std::string calls;
+    for (char name = 'a'; name <= 'h'; ++name)
+        connections.push_back(signal.connect([&calls, name] { calls += name; }));
+    signal.connect([&] {
+        for (const std::size_t i : { 0u, 1u, 4u, 7u })
+            connections[i].disconnect();
+    });
+    signal.emit();
+    calls.clear();
+    signal.emit();
+    EXPECT_EQ(calls, "cdfg");
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, DisconnectingAllInsideAnEmissionEndsItQuietly)
+{
+    VoidProbe signal;
+    std::string calls;
+    signal.connect([&] {
+        calls += 'a';
+        signal.disconnect_all_slots();
+        EXPECT_EQ(signal.m_offset, 2u);
+        EXPECT_EQ(signal.m_size, 0u);
+        EXPECT_EQ(signal.pending.size(), 2u);
+        EXPECT_TRUE(signal.empty());
+    });
+    const Connection second = signal.connect([&calls] { calls += 'b'; });
+    signal.emit();
+    EXPECT_EQ(calls, "a");
+    EXPECT_FALSE(second.connected());
+    EXPECT_TRUE(signal.pending.empty());
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, AfterDisconnectingAllANestedEmissionFindsOnlyNewSlots)
+{
+    VoidProbe signal;
+    std::string calls;
+    signal.connect([&] {
+        calls += 'a';
+        signal.disconnect_all_slots();
+        signal.emit();
+        calls += '|';
+        signal.connect([&calls] { calls += 'n'; });
+        signal.emit();
+        EXPECT_EQ(signal.num_slots(), 1u);
+    });
+    signal.connect([&calls] { calls += 'b'; });
+    signal.emit();
+    EXPECT_EQ(calls, "a|n");
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 1u);
+    EXPECT_EQ(signal.pending[0].id, 2u);
+}
+
+TEST(SignalReentrancy, DisconnectingBelowTheOffsetDoesNothing)
+{
+    VoidProbe signal;
+    Connection second;
+    signal.connect([&] {
+        signal.disconnect_all_slots();
+        signal.connect([] {});
+        second.disconnect();
+        EXPECT_EQ(signal.num_slots(), 1u);
+    });
+    second = signal.connect([] {});
+    signal.emit();
+    EXPECT_TRUE(signal.isTidy());
+    EXPECT_EQ(signal.num_slots(), 1u);
+}
+
+TEST(SignalReentrancy, ADeadPrefixAndOtherDeadRecordsLeaveTogether)
+{
+    VoidProbe signal;
+    Connection fresh;
+    signal.connect([&] {
+        signal.disconnect_all_slots();
+        fresh = signal.connect([] {});
+        signal.connect([] {});
+        fresh.disconnect();
+        EXPECT_EQ(signal.pending.size(), 4u);
+        EXPECT_EQ(signal.m_offset, 2u);
+    });
+    signal.connect([] {});
+    signal.emit();
+    ASSERT_TRUE(signal.isTidy());
+    ASSERT_EQ(signal.pending.size(), 1u);
+    EXPECT_EQ(signal.pending[0].id, 3u);
+}
+
+TEST(SignalReentrancy, TwoSignalsMayEmitEachOther)
+{
+    VoidProbe left;
+    VoidProbe right;
+    int calls = 0;
+    left.connect([&] {
+        if (++calls < 6)
+            right.emit();
+    });
+    right.connect([&] {
+        if (++calls < 6)
+            left.emit();
+    });
+    left.emit();
+    EXPECT_EQ(calls, 6);
+    EXPECT_TRUE(left.isTidy());
+    EXPECT_TRUE(right.isTidy());
+}
+
+} // namespace
