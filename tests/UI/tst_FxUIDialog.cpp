@@ -1,7 +1,6 @@
 #include "UI/FxUIDialog.h"
 
-#include "FxDocument.h"
-#include "support/Dialogs.h"
+#include "DialogTools.h"
 #include "support/Events.h"
 #include "support/TestMain.h"
 #include "UI/FxUIBaseView.h"
@@ -31,47 +30,9 @@ static_assert(
 
 namespace {
 
-// Writes down which of its virtual operations are called.
-class TestDialog : public CFxUIDialog {
-public:
-    QStringList calls;
-    std::function<void()> inSetup;
-    int helpId = 42;
-
-    void SetupUI() override
-    {
-        calls.append(QStringLiteral("SetupUI"));
-        if (inSetup)
-            inSetup();
-    }
-
-    int GetHelpId() const override { return helpId; }
-
-    const char *GetHelpURL() const override { return "https://help.example/"; }
-
-    void showEvent(CFxUIShowEvent *) override { calls.append(QStringLiteral("showEvent")); }
-
-    void hideEvent(CFxUIHideEvent *) override { calls.append(QStringLiteral("hideEvent")); }
-
-    CFxUIDialogImpl *Impl() const { return static_cast<CFxUIDialogImpl *>(impl); }
-};
-
 class PlainDialog : public CFxUIDialog {
 public:
     void SetupUI() override { }
-};
-
-// Counts what the dialog's three signals emit.
-struct Emissions {
-    explicit Emissions(CFxUIDialog &dialog)
-    {
-        dialog.accepted().connect([this] { log.append(QStringLiteral("accepted")); });
-        dialog.rejected().connect([this] { log.append(QStringLiteral("rejected")); });
-        dialog.finished().connect(
-            [this](int code) { log.append(QStringLiteral("finished %1").arg(code)); });
-    }
-
-    QStringList log;
 };
 
 } // namespace
@@ -267,7 +228,7 @@ void tst_FxUIDialog::endOfARun()
     QFETCH(int, way);
     QFETCH(int, code);
     TestDialog dialog;
-    const Emissions emissions(dialog);
+    const DialogEmissions emissions(dialog);
     const QSignalSpy accepted(Window(dialog), &QDialog::accepted);
     const QSignalSpy rejected(Window(dialog), &QDialog::rejected);
     const QSignalSpy finished(Window(dialog), &QDialog::finished);
@@ -340,7 +301,7 @@ void tst_FxUIDialog::handlerEmits()
                                                     &CFxUIDialogImpl::OnRejected,
                                                     &CFxUIDialogImpl::OnRejectPressed };
     TestDialog dialog;
-    const Emissions emissions(dialog);
+    const DialogEmissions emissions(dialog);
     const CFxUIObject *sender = &dialog;
     dialog.accepted().connect([&] { sender = dialog.sender(); });
     dialog.rejected().connect([&] { sender = dialog.sender(); });
@@ -356,7 +317,7 @@ void tst_FxUIDialog::handlerEmits()
 void tst_FxUIDialog::onHelpPressedWithoutAButtonBoxDoesNothing()
 {
     TestDialog dialog;
-    const Emissions emissions(dialog);
+    const DialogEmissions emissions(dialog);
     auto *child = new PlainDialog; // a child of another class
     child->setParent(&dialog);
     dialog.Impl()->OnHelpPressed();
@@ -418,7 +379,7 @@ void tst_FxUIDialog::helpIdReachesTheHostsDialog()
 void tst_FxUIDialog::openHelpDoesNothing()
 {
     TestDialog dialog;
-    const Emissions emissions(dialog);
+    const DialogEmissions emissions(dialog);
     dialog.openHelp();
     QVERIFY(dialog.calls.isEmpty());
     QVERIFY(emissions.log.isEmpty());
