@@ -1,31 +1,31 @@
-// A panel with one button that counts its clicks.
 #include "UI/FxUIDialog.h"
-#include "UI/FxUIPushButton.h"
+#include "UI/FxUIDialogButtonBox.h"
+#include "UI/FxUILabel.h"
+#include "UI/FxUISlider.h"
 #include "UI/FxUIVerticalLayout.h"
 
 #include <QtWidgets/QApplication>
 
-class CounterDialog : public CFxUIDialog {
-public:
-    CounterDialog() { setWindowTitle("Counter"); }
-
+class VolumeDialog : public CFxUIDialog {
     void SetupUI() override // runs once, at the first exec()
     {
-        auto *button = new CFxUIPushButton;
-        button->setText("Press me");
-        button->clicked().connect(
-            [this, button](bool) { button->setText(QString("Pressed: %1").arg(++m_count)); });
-        GetLayout()->setContentsMargins(20, 20, 20, 20);
-        GetLayout()->addView(button); // the layout owns it from here on
-    }
+        auto *label = new CFxUILabel;
+        auto *slider = new CFxUISlider;
+        GetLayout()->addView(label); // the layout owns its views
+        GetLayout()->addView(slider);
+        slider->valueChanged().connect(
+            [label](int value) { label->setText(QStringLiteral("Volume: %1").arg(value)); });
+        slider->setValue(30);
 
-private:
-    int m_count = 0;
+        auto *buttons = new CFxUIDialogButtonBox(this); // the dialog owns it
+        buttons->accepted().connect([this] { accept(); });
+        buttons->rejected().connect([this] { reject(); });
+    }
 };
 
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    CounterDialog dialog;
-    return dialog.exec();
+    VolumeDialog dialog;
+    return dialog.exec() == 1 ? 0 : 1;
 }

@@ -102,9 +102,10 @@ void tst_GalleryProgram::badInputGetsOneLineAndStatusTwo_data()
     row("unknown theme", "--theme blue", "unknown theme 'blue': it is light or dark");
     row("empty theme", "--theme=", "unknown theme '': it is light or dark");
     row("unknown panel", "--plugins " FIXTURE_PLUGINS " --panel nix",
-        "unknown panel 'nix': the panels are closes-itself, good, setup-throws, slot-throws");
+        "unknown panel 'nix': the panels are closes-itself, counter, good, setup-throws, "
+        "slot-throws");
     row("panel that did not load", "--plugins " FIXTURE_PLUGINS " --panel create-null",
-        "unknown panel 'create-null': the panels are closes-itself, good, setup-throws, "
+        "unknown panel 'create-null': the panels are closes-itself, counter, good, setup-throws, "
         "slot-throws");
     row("panel of an empty folder", "--plugins . --panel good",
         "unknown panel 'good': no panel is loaded");
@@ -155,6 +156,7 @@ void tst_GalleryProgram::listTellsWhatLoadedAndWhyTheRestDidNot()
     const QString expected = QStringLiteral(
         "Modules in " FIXTURE_PLUGINS ":\n"
         "  closes-itself Closes itself: Comes back from its run at once.\n"
+        "  counter      Counter: Counts what the user drags.\n"
         "  good         Good: A plug-in that loads.\n"
         "  setup-throws Set-up throws: Throws at the first run of its dialog.\n"
         "  slot-throws  Slot throws: Throws out of a slot while its dialog runs.\n"
