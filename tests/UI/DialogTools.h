@@ -4,9 +4,11 @@
 #include "UI/Impl/FxUIDialogImpl.h"
 #include "UI/Impl/qt/frontend/FxUIDialogFrontend.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QPointer>
 #include <QtCore/QStringList>
 #include <QtCore/QTimer>
+#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
 #include <functional>
@@ -47,6 +49,18 @@ public:
 
     CFxUIDialogImpl *Impl() const { return static_cast<CFxUIDialogImpl *>(impl); }
 };
+
+/// Calls the handler that has the name of the present row.
+inline void CallHandlerOfRow(const TestDialog &dialog)
+{
+    const QHash<QString, void (CFxUIDialogImpl::*)()> handlers = {
+        { QStringLiteral("OnAccepted"), &CFxUIDialogImpl::OnAccepted },
+        { QStringLiteral("OnAcceptPressed"), &CFxUIDialogImpl::OnAcceptPressed },
+        { QStringLiteral("OnRejected"), &CFxUIDialogImpl::OnRejected },
+        { QStringLiteral("OnRejectPressed"), &CFxUIDialogImpl::OnRejectPressed }
+    };
+    (dialog.Impl()->*handlers.value(QString::fromLatin1(QTest::currentDataTag())))();
+}
 
 /// Writes down what the three signals of a dialog emit.
 class DialogEmissions {

@@ -98,24 +98,18 @@ void tst_FxUIDialogButtonBoxEvents::connectedBoxEndsTheDialog()
 
 void tst_FxUIDialogButtonBoxEvents::handlerOfTheDialogTakesTheOtherRoad_data()
 {
-    QTest::addColumn<int>("handler");
     QTest::addColumn<QString>("emitted");
     const QString accepted = QStringLiteral("dialog accepted, ok true, accepted");
     const QString rejected = QStringLiteral("dialog rejected, cancel true, rejected");
-    QTest::newRow("OnAccepted") << 0 << accepted;
-    QTest::newRow("OnAcceptPressed") << 1 << accepted;
-    QTest::newRow("OnRejected") << 2 << rejected;
-    QTest::newRow("OnRejectPressed") << 3 << rejected;
+    QTest::newRow("OnAccepted") << accepted;
+    QTest::newRow("OnAcceptPressed") << accepted;
+    QTest::newRow("OnRejected") << rejected;
+    QTest::newRow("OnRejectPressed") << rejected;
 }
 
 void tst_FxUIDialogButtonBoxEvents::handlerOfTheDialogTakesTheOtherRoad()
 {
-    QFETCH(int, handler);
     QFETCH(QString, emitted);
-    void (CFxUIDialogImpl::*const handlers[])() = { &CFxUIDialogImpl::OnAccepted,
-                                                    &CFxUIDialogImpl::OnAcceptPressed,
-                                                    &CFxUIDialogImpl::OnRejected,
-                                                    &CFxUIDialogImpl::OnRejectPressed };
     TestDialog dialog;
     // Listeners that come before the box is made stand in front of its own.
     QStringList log;
@@ -132,7 +126,7 @@ void tst_FxUIDialogButtonBoxEvents::handlerOfTheDialogTakesTheOtherRoad()
     box->button(Box::Cancel)->clicked().connect([&](bool on) {
         wrappers.append(on ? QStringLiteral("cancel true") : QString());
     });
-    (dialog.Impl()->*handlers[handler])();
+    CallHandlerOfRow(dialog);
     const QStringList expected = emitted.split(QStringLiteral(", "));
     QCOMPARE(log, QStringList({ expected[0], expected[2] }));
     QCOMPARE(wrappers, QStringList({ expected[1] }));
