@@ -1,4 +1,5 @@
 #include "PictureComparison.h"
+#include "ProgramEnvironment.h"
 #include "support/TestMain.h"
 
 #include <QtCore/QDir>
@@ -28,6 +29,7 @@ void tst_GalleryPictures::initTestCase()
     QVERIFY2(family == QLatin1String("DejaVu Sans"), "the font DejaVu Sans isn't installed");
     QVERIFY(QDir(m_made.path()).removeRecursively());
     QProcess gallery;
+    gallery.setProcessEnvironment(ProgramEnvironment());
     gallery.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     gallery.start(QStringLiteral(GALLERY), { QStringLiteral("--screenshots"), m_made.path() });
     QVERIFY2(gallery.waitForFinished(100000), qPrintable(gallery.errorString()));

@@ -1,3 +1,4 @@
+#include "ProgramEnvironment.h"
 #include "support/TestMain.h"
 
 #include <QtCore/QDir>
@@ -33,7 +34,7 @@ private:
     void Run(const QStringList &arguments);
     QStringList PicturesIn(const QString &folder) const;
 
-    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment m_environment;
     std::unique_ptr<QTemporaryDir> m_folder;
     int m_status = -1;
     QString m_out;
@@ -43,7 +44,7 @@ private:
 void tst_GalleryProgram::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_environment = QProcessEnvironment::systemEnvironment();
+    m_environment = ProgramEnvironment();
     // What a bare machine lacks must not make Qt speak up.
     m_environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
 }

@@ -87,11 +87,6 @@ void Module::SetLook(Look look)
     Fit();
 }
 
-QWidget *Module::Window() const
-{
-    return m_dialog ? qobject_cast<QWidget *>(m_dialog->getHandle()) : nullptr;
-}
-
 // The size is the content's own and not what is left over on the screen, so that it is the same
 // everywhere.
 void Module::Fit()
@@ -106,6 +101,11 @@ void Module::Fit()
     const int height =
         layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : hint.height();
     window->resize(width, qMax(LeastHeight, height));
+}
+
+QWidget *Module::Window() const
+{
+    return m_dialog ? qobject_cast<QWidget *>(m_dialog->getHandle()) : nullptr;
 }
 
 // A dialog leaves its window behind, so the host takes care of that.

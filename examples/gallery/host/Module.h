@@ -37,8 +37,11 @@ public:
     /// Closes the dialog from within Run().
     void Close();
 
-    /// Gives the dialog the look's sheet and the size that its content then needs.
+    /// Gives the dialog the look's sheet, and the size that its content then needs.
     void SetLook(Look look);
+
+    /// Gives the dialog the size that its content needs. Nothing, before its first run.
+    void Fit();
 
     /// The dialog's window; null if the module isn't loaded.
     QWidget *Window() const;
@@ -51,7 +54,6 @@ public:
 
 private:
     void DropDialog();
-    void Fit();
 
     std::unique_ptr<CFxUIDialog> m_dialog;
     QString m_lightSheet;

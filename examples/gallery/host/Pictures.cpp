@@ -24,13 +24,16 @@ public:
     }
 };
 
-// What a window does in its first turns of the event loop is done afterwards.
+// Lets a window do what it does in its first turns of the event loop. Inside an event, a turn
+// leaves out what is posted, the requests for a new layout among it.
 void Settle(QWidget &window)
 {
     constexpr int Turns = 8;
     QApplication::setActiveWindow(&window);
-    for (int i = 0; i < Turns; ++i)
+    for (int i = 0; i < Turns; ++i) {
         QApplication::processEvents();
+        QApplication::sendPostedEvents();
+    }
     if (QWidget *focus = window.focusWidget())
         focus->clearFocus();
 }
@@ -70,6 +73,8 @@ void Pictures::TakePanel(MainWindow &host, Module &module, const QList<Look> &lo
         visited = true;
         for (Look look : looks) {
             host.SetLook(look);
+            Settle(*module.Window());
+            module.Fit();
             Take(*module.Window(), module.name, look);
         }
         module.Close();

@@ -70,10 +70,7 @@ void GalleryPanel::AddHeading(const char *text)
 
 void GalleryPanel::AddNote(const char *text)
 {
-    auto *label = new CFxUILabel;
-    label->setText(QString::fromUtf8(text));
-    label->setWordWrap(true);
-    GetLayout()->addView(label);
+    GetLayout()->addView(MakeLabel(QString::fromUtf8(text), 0));
 }
 
 GalleryRow GalleryPanel::AddRow(const char *caption, CFxUIBaseView *control, Answers answers)
@@ -107,6 +104,7 @@ CFxUILabel *GalleryPanel::MakeLabel(const QString &text, int width) const
     auto *label = new CFxUILabel;
     label->setText(text);
     label->setWordWrap(true);
+    label->setMinimumHeight(1); // or the height at a lesser width would be kept free
     if (width > 0) {
         label->setMinimumWidth(width);
         label->setMaximumWidth(width);
