@@ -16,10 +16,13 @@ CFxUIObject::~CFxUIObject()
     setParent(nullptr);
     delete impl;
     impl = nullptr;
-    // A copy: each child takes itself out of the list in the record as it dies.
+    // A copy: each child takes itself out of the list in the record as it dies. One that has left
+    // meanwhile, deleted or moved by a sibling's destructor, is no longer this object's to delete.
     const QList<CFxUIObject *> children = data->children();
-    for (CFxUIObject *child : children)
-        delete child;
+    for (CFxUIObject *child : children) {
+        if (data->indexOf(child) >= 0)
+            delete child;
+    }
     delete data;
 }
 

@@ -16,6 +16,10 @@ class CFxUIObject;
 /// The record behind each public object: handle, names, flags and the place in the object tree.
 class COMMONUI_EXPORT CFxUIObjectData {
 public:
+    CFxUIObjectData() = default;
+    CFxUIObjectData(const CFxUIObjectData &) = delete;
+    CFxUIObjectData &operator=(const CFxUIObjectData &) = delete;
+
     /// Null if there is none or if Qt has deleted it.
     QObject *getHandle() const;
     void setHandle(QObject *handle);
