@@ -72,5 +72,4 @@ protected:
     QString m_errorString;
     QList<QByteArray> m_rawHeaderNames; // distinct, in order of first appearance
     QList<QPair<QByteArray, QByteArray>> m_rawHeaderPairs;
-    QList<QMetaObject::Connection> m_connections; // to the Qt reply, which may outlive this object
 };

@@ -15,8 +15,7 @@ namespace FxBaseViewImpl {
 COMMONUI_EXPORT QObject *CreateFrontendControl(const QString &className, void *impl);
 
 /// Deletes a widget when the event loop next runs (QObject::deleteLater) and leaves any other
-/// object alone. The name isn't looked at. Either way the object's connections to itself end, so
-/// that no handler runs for it any more.
+/// object alone. The name isn't looked at.
 COMMONUI_EXPORT void ReleaseFrontendControl(const QString &className, QObject *frontend);
 
 /// Do nothing.

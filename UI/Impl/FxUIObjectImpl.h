@@ -2,6 +2,8 @@
 
 #include "UI/FxUIExport.h"
 
+#include <QtCore/QList>
+#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
@@ -13,6 +15,8 @@ class COMMONUI_EXPORT CFxUIObjectImpl {
 public:
     /// \a object is the public object; not null, not owned. Its `impl` isn't set yet.
     explicit CFxUIObjectImpl(CFxUIObject *object);
+
+    /// Ends the connections that were handed to EndWithThis().
     virtual ~CFxUIObjectImpl();
 
     CFxUIObjectImpl(const CFxUIObjectImpl &) = delete;
@@ -30,5 +34,12 @@ public:
     /// QObject::setProperty on the handle; its result, or false without a handle.
     virtual bool SetPropertyImpl(const char *name, const QVariant &value);
 
+    /// Cuts \a connection when this object dies, whatever has become of the handle by then: a Qt
+    /// object outlives it until the event loop next runs, and for ever where nobody deletes it.
+    void EndWithThis(const QMetaObject::Connection &connection);
+
     CFxUIObject *owner;
+
+protected:
+    QList<QMetaObject::Connection> m_connections;
 };

@@ -1,5 +1,6 @@
 #include "NA/Impl/FxNANetworkReplyImpl.h"
 
+#include "UI/Impl/qt/ConnectFrontend.h"
 #include "UI/Impl/qt/FrontendCast.h"
 
 #include <QtNetwork/QNetworkReply>
@@ -70,41 +71,29 @@ void CFxNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
     if (!reply)
         return;
     // Two ints where Qt delivers qint64: only the low 32 bits survive. Intended.
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::downloadProgress, reply,
-        [this](int received, int total) { OnDownloadProgress(received, total); },
-        Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::uploadProgress, reply,
-        [this](int sent, int total) { OnUploadProgress(sent, total); }, Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::encrypted, reply, [this] { OnEncrypted(); }, Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, ErrorSignal(), reply,
-        [this](QNetworkReply::NetworkError code) {
-            auto *device = FrontendCast<QNetworkReply>(owner);
-            OnError(static_cast<CFxNANetworkReply::NetworkError>(code),
-                    device ? device->errorString() : QString(), device);
-        },
-        Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::finished, reply,
-        [this] {
-            auto *device = FrontendCast<QNetworkReply>(owner);
-            if (!device)
-                return OnFinished(0, {}, nullptr);
-            const QVariant status = device->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-            OnFinished(status.toInt(), device->rawHeaderPairs(), device);
-        },
-        Qt::DirectConnection);
+    ConnectFrontend(reply, &QNetworkReply::downloadProgress, this,
+                    [this](int received, int total) { OnDownloadProgress(received, total); });
+    ConnectFrontend(reply, &QNetworkReply::uploadProgress, this,
+                    [this](int sent, int total) { OnUploadProgress(sent, total); });
+    ConnectFrontend(reply, &QNetworkReply::encrypted, this, [this] { OnEncrypted(); });
+    ConnectFrontend(reply, ErrorSignal(), this, [this](QNetworkReply::NetworkError code) {
+        auto *device = FrontendCast<QNetworkReply>(owner);
+        OnError(static_cast<CFxNANetworkReply::NetworkError>(code),
+                device ? device->errorString() : QString(), device);
+    });
+    ConnectFrontend(reply, &QNetworkReply::finished, this, [this] {
+        auto *device = FrontendCast<QNetworkReply>(owner);
+        if (!device)
+            return OnFinished(0, {}, nullptr);
+        const QVariant status = device->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+        OnFinished(status.toInt(), device->rawHeaderPairs(), device);
+    });
 }
 
-// The Qt reply lives until the event loop next runs and may still emit: its connections are cut,
-// so that no handler of this object runs for it any more.
+// The Qt reply lives until the event loop next runs and may still emit; its connections end with
+// this object.
 void CFxNANetworkReplyImpl::DestroyNetworkReplyImpl()
 {
-    for (const QMetaObject::Connection &connection : std::as_const(m_connections))
-        QObject::disconnect(connection);
     if (auto *reply = FrontendCast<QNetworkReply>(owner))
         reply->deleteLater();
     owner->setHandle(nullptr);

@@ -1,7 +1,5 @@
 #include "UI/Impl/FxBaseViewImpl.h"
 
-#include "UI/Impl/qt/ConnectFrontend.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
@@ -12,7 +10,6 @@ QObject *FxBaseViewImpl::CreateFrontendControl(const QString & /*className*/, vo
 
 void FxBaseViewImpl::ReleaseFrontendControl(const QString & /*className*/, QObject *frontend)
 {
-    DetachFrontend(frontend);
     if (frontend && frontend->isWidgetType())
         frontend->deleteLater();
 }

@@ -69,7 +69,7 @@ void CFxUIDialogButtonBoxImpl::WrapButtonsImpl()
     m_okButton = WrapButton(box, QDialogButtonBox::Ok);
     m_cancelButton = WrapButton(box, QDialogButtonBox::Cancel);
     m_helpButton = WrapButton(box, QDialogButtonBox::Help);
-    ConnectFrontend(box, &QDialogButtonBox::accepted, [this] { OnResult(1); });
-    ConnectFrontend(box, &QDialogButtonBox::rejected, [this] { OnResult(0); });
+    ConnectFrontend(box, &QDialogButtonBox::accepted, this, [this] { OnResult(1); });
+    ConnectFrontend(box, &QDialogButtonBox::rejected, this, [this] { OnResult(0); });
     ConnectFrontend(box, &QDialogButtonBox::clicked, this, &CFxUIDialogButtonBoxImpl::OnClicked);
 }

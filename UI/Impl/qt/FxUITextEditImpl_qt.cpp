@@ -17,9 +17,8 @@ void CFxUITextEditImpl::CreateFrontendControl()
     frontend->impl = this;
     ConnectFrontend(frontend, &QLineEdit::textChanged, this, &CFxUITextEditImpl::OnEditTextChanged);
     // The modifiers stay behind: slots get 0, unlike those of the text view. Intended.
-    QObject::connect(
-        frontend, &CFxUITextEditFrontend::keyPressed, frontend,
-        [this](int key) { OnKeyPressed(key, 0); }, Qt::DirectConnection);
+    ConnectFrontend(frontend, &CFxUITextEditFrontend::keyPressed, this,
+                    [this](int key) { OnKeyPressed(key, 0); });
 }
 
 void CFxUITextEditImpl::SetTextImpl(const QString &text)
