@@ -16,12 +16,14 @@ bool HasOutputOption(const QStringList &arguments)
 }
 
 // What a platform says for reasons of its own, which no test can announce for every platform: the
-// offscreen one of each window with limits to its size, each menu and each grab; the X server's when
-// a request of Qt's or of the window manager's arrives for a window that has just gone.
+// offscreen one of each window with limits to its size, each menu and each grab; the X server's
+// when a request of Qt's or of the window manager's arrives for a window that has just gone, or
+// when a window is shown again before the manager has taken it away.
 bool IsNoise(const QString &line)
 {
     return line.contains(QLatin1String(" This plugin does not support "))
-        || line.contains(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"));
+        || line.contains(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"))
+        || line.contains(QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped window"));
 }
 
 // The warnings in QtTest's own text log: those that a test announced aren't there.
