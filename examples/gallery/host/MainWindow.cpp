@@ -57,6 +57,8 @@ MainWindow::MainWindow(Modules &modules, SignalLog &log, const QString &folder)
     connect(&m_log, &SignalLog::logged, this, &MainWindow::AddLogLine);
     FillLists();
     m_panels->setCurrentRow(0);
+    if (const Module *hello = FindModule(m_modules, QStringLiteral("hello")))
+        SelectPanel(*hello);
     SetLook(Look::Light);
 }
 
@@ -76,6 +78,18 @@ void MainWindow::SelectPanel(const Module &module)
         if (m_panels->item(row)->data(Qt::UserRole).toString() == module.name)
             m_panels->setCurrentRow(row);
     }
+}
+
+Module *MainWindow::Selected() const
+{
+    const QListWidgetItem *item = m_panels->currentItem();
+    return item ? FindModule(m_modules, item->data(Qt::UserRole).toString()) : nullptr;
+}
+
+void MainWindow::ClearLog()
+{
+    m_lines->clear();
+    m_log.Restart();
 }
 
 void MainWindow::RunSelected()
@@ -147,7 +161,7 @@ QWidget *MainWindow::MakeLogSide()
     auto *clear = new QPushButton(QStringLiteral("&Clear"));
     clear->setObjectName(QStringLiteral("clear"));
     clear->setMinimumSize(80, 28);
-    connect(clear, &QPushButton::clicked, m_lines, &QTreeWidget::clear);
+    connect(clear, &QPushButton::clicked, this, &MainWindow::ClearLog);
 
     auto *openRow = new QHBoxLayout;
     openRow->addWidget(m_open);
@@ -215,12 +229,6 @@ void MainWindow::ShowSelected()
     m_title->setText(module ? QStringLiteral("<b>%1</b>").arg(module->title.toHtmlEscaped())
                             : QStringLiteral("<b>No panel selected</b>"));
     m_summary->setText(module ? module->summary : QString());
-}
-
-Module *MainWindow::Selected() const
-{
-    const QListWidgetItem *item = m_panels->currentItem();
-    return item ? FindModule(m_modules, item->data(Qt::UserRole).toString()) : nullptr;
 }
 
 void MainWindow::AddLogLine(int number, const QString &object, const QString &signal,

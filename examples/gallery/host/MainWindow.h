@@ -25,6 +25,11 @@ public:
 
     void SelectPanel(const Module &module);
 
+    /// Returns the selected panel; null if there is none. Default: "hello", or else the first.
+    Module *Selected() const;
+
+    void ClearLog();
+
     /// Runs the selected panel's dialog until it is closed. A panel that throws meanwhile is moved
     /// to the modules that did not load.
     void RunSelected();
@@ -38,7 +43,6 @@ private:
     QWidget *MakeLookBar();
     void FillLists();
     void ShowSelected();
-    Module *Selected() const;
     void AddLogLine(int number, const QString &object, const QString &signal,
                     const QString &arguments);
 

@@ -1,13 +1,12 @@
 #include "Module.h"
 
+#include "Failure.h"
 #include "UI/FxUIDialog.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QWidget>
-
-#include <functional>
 
 namespace {
 
@@ -49,13 +48,19 @@ Module::~Module()
     DropDialog();
 }
 
-void Module::SetDialog(CFxUIDialog *dialog)
+void Module::MakeDialog(std::function<CFxUIDialog *()> create)
 {
-    m_dialog.reset(dialog);
-    if (QWidget *window = Window()) {
-        m_lightSheet = window->styleSheet();
-        window->resize(LeastWidth, LeastHeight);
-        new AtFirstShow(window, [this] { Fit(); });
+    m_create = std::move(create);
+    TakeOver(m_create());
+}
+
+void Module::Renew()
+{
+    DropDialog();
+    try {
+        TakeOver(m_create());
+    } catch (...) {
+        Refuse(QStringLiteral("made no second dialog: ") + CurrentFailure());
     }
 }
 
@@ -82,6 +87,7 @@ void Module::Close()
 
 void Module::SetLook(Look look)
 {
+    m_look = look;
     if (QWidget *window = Window())
         ApplySheet(window, look, m_lightSheet);
     Fit();
@@ -106,6 +112,18 @@ void Module::Fit()
 QWidget *Module::Window() const
 {
     return m_dialog ? qobject_cast<QWidget *>(m_dialog->getHandle()) : nullptr;
+}
+
+void Module::TakeOver(CFxUIDialog *dialog)
+{
+    m_dialog.reset(dialog);
+    QWidget *window = Window();
+    if (!window)
+        return;
+    m_lightSheet = window->styleSheet();
+    window->resize(LeastWidth, LeastHeight);
+    new AtFirstShow(window, [this] { Fit(); });
+    SetLook(m_look);
 }
 
 // A dialog leaves its window behind, so the host takes care of that.

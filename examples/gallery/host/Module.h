@@ -4,6 +4,7 @@
 
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
 
 class CFxUIDialog;
@@ -19,8 +20,11 @@ public:
     Module(const Module &) = delete;
     Module &operator=(const Module &) = delete;
 
-    /// Takes the dialog over, and remembers the sheet that it came with.
-    void SetDialog(CFxUIDialog *dialog);
+    /// Makes the dialog with \a create and keeps that for Renew(). Lets through what it throws.
+    void MakeDialog(std::function<CFxUIDialog *()> create);
+
+    /// Replaces the dialog by a fresh one, which has never run. Refuses the module if that fails.
+    void Renew();
 
     /// Drops the dialog. \a reason is shown to the user.
     void Refuse(const QString &reason);
@@ -53,8 +57,11 @@ public:
     QString summary;
 
 private:
+    void TakeOver(CFxUIDialog *dialog);
     void DropDialog();
 
+    std::function<CFxUIDialog *()> m_create;
     std::unique_ptr<CFxUIDialog> m_dialog;
-    QString m_lightSheet;
+    QString m_lightSheet; ///< the sheet that the dialog came with
+    Look m_look = Look::Light;
 };

@@ -99,7 +99,9 @@ void Load(Module &module, IGalleryHost *host, const Modules &loaded)
 
     const char *createSymbol = "GalleryPlugin_CreateDialog";
     const auto create = Resolve<decltype(&GalleryPlugin_CreateDialog)>(library, createSymbol);
-    module.SetDialog(Call(createSymbol, [create, host] { return create(host); }));
+    module.MakeDialog([create, createSymbol, host] {
+        return Call(createSymbol, [create, host] { return create(host); });
+    });
     if (!module.Window())
         throw Refusal(QStringLiteral("made a dialog without a window"));
 }

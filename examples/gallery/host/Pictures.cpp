@@ -6,6 +6,7 @@
 #include <QtCore/QTimer>
 #include <QtCore/QTimerEvent>
 #include <QtGui/QImageWriter>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
 namespace {
@@ -38,6 +39,14 @@ void Settle(QWidget &window)
         focus->clearFocus();
 }
 
+void PressEnter(QWidget &window)
+{
+    for (QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&window, &event);
+    }
+}
+
 QImage Grab(QWidget &window)
 {
     constexpr int DotsPerMeter = 3780; // 96 dpi
@@ -66,29 +75,28 @@ bool Pictures::PrepareFolder()
 
 void Pictures::TakePanel(MainWindow &host, Module &module, const QList<Look> &looks)
 {
-    const Stillness stillness;
-    bool visited = false;
-    QObject visit; // takes the call below with it, should the panel throw
-    QTimer::singleShot(0, &visit, [&] {
-        visited = true;
-        for (Look look : looks) {
-            host.SetLook(look);
+    for (Look look : looks) {
+        host.SetLook(look);
+        const bool visited = Visit(host, module, [&] {
             Settle(*module.Window());
             module.Fit();
             Take(*module.Window(), module.name, look);
-        }
-        module.Close();
-    });
-    module.Window()->setAttribute(Qt::WA_DontShowOnScreen);
-    host.Run(module);
-    if (!module.IsLoaded())
-        Fail(QStringLiteral("%1 %2").arg(module.FileName(), module.refusal));
-    else if (!visited)
-        Fail(QStringLiteral("%1 closed before its picture was taken").arg(module.FileName()));
+        });
+        if (!visited)
+            return;
+        module.Renew(); // the next picture shows a panel that has just been opened, too
+    }
 }
 
 void Pictures::TakeHost(MainWindow &host, const QList<Look> &looks)
 {
+    host.ClearLog();
+    if (Module *module = host.Selected()) {
+        Visit(host, *module, [&] {
+            for (int i = 0; i < 3; ++i)
+                PressEnter(*module->Window());
+        });
+    }
     const Stillness stillness;
     host.setAttribute(Qt::WA_DontShowOnScreen);
     host.show();
@@ -97,6 +105,25 @@ void Pictures::TakeHost(MainWindow &host, const QList<Look> &looks)
         Take(host, QStringLiteral("host"), look);
     }
     host.close();
+}
+
+bool Pictures::Visit(MainWindow &host, Module &module, const std::function<void()> &action)
+{
+    const Stillness stillness;
+    bool visited = false;
+    QObject visit; // takes the call below with it, should the panel throw
+    QTimer::singleShot(0, &visit, [&] {
+        visited = true;
+        action();
+        module.Close();
+    });
+    module.Window()->setAttribute(Qt::WA_DontShowOnScreen);
+    host.Run(module);
+    if (!module.IsLoaded())
+        Fail(QStringLiteral("%1 %2").arg(module.FileName(), module.refusal));
+    else if (!visited)
+        Fail(QStringLiteral("%1 closed before its picture was taken").arg(module.FileName()));
+    return visited && module.IsLoaded();
 }
 
 void Pictures::Take(QWidget &window, const QString &name, Look look)

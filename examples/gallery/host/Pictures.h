@@ -4,6 +4,8 @@
 
 #include <QtCore/QTextStream>
 
+#include <functional>
+
 class MainWindow;
 class QImage;
 class QWidget;
@@ -19,10 +21,11 @@ public:
     /// Makes the folder if it isn't there.
     bool PrepareFolder();
 
-    /// Runs the panel, writes NAME-LOOK.png for each look, and closes it.
+    /// Runs the panel for each look, writes NAME-LOOK.png, and closes it.
     void TakePanel(MainWindow &host, Module &module, const QList<Look> &looks);
 
-    /// Writes host-LOOK.png.
+    /// Writes host-LOOK.png, as it looks after a user has opened the selected panel and pressed
+    /// Enter some times.
     void TakeHost(MainWindow &host, const QList<Look> &looks);
 
     int Taken() const { return m_taken; }
@@ -30,6 +33,7 @@ public:
     int Failed() const { return m_failed; }
 
 private:
+    bool Visit(MainWindow &host, Module &module, const std::function<void()> &action);
     void Take(QWidget &window, const QString &name, Look look);
     void Fail(const QString &text);
 

@@ -4,3 +4,8 @@ void SignalLog::LogSignal(const QString &object, const QString &signal, const QS
 {
     Q_EMIT logged(++m_count, object, signal, arguments);
 }
+
+void SignalLog::Restart()
+{
+    m_count = 0;
+}

@@ -11,6 +11,9 @@ class SignalLog : public QObject, public IGalleryHost {
 public:
     void LogSignal(const QString &object, const QString &signal, const QString &arguments) override;
 
+    /// Starts over with number 1.
+    void Restart();
+
 Q_SIGNALS:
     void logged(int number, const QString &object, const QString &signal, const QString &arguments);
 

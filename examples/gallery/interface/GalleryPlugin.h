@@ -35,7 +35,7 @@ extern "C" {
 /// Never null.
 __attribute__((visibility("default"))) const GalleryPluginInfo *GalleryPlugin_Info();
 
-/// Makes the plug-in's dialog, never null; the host owns it. \a host outlives it and is never
-/// null. Called once, before the dialog is shown.
+/// Makes a dialog of the plug-in, never null; the host owns it. \a host outlives it and is never
+/// null. Called when the module has been loaded, and again when the host wants a fresh dialog.
 __attribute__((visibility("default"))) CFxUIDialog *GalleryPlugin_CreateDialog(IGalleryHost *host);
 }
