@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QUrl>
+#include <QtNetwork/QTcpServer>
+
+class QTcpSocket;
+
+/// A small HTTP server on the loopback interface, for trying the panel without a network: /text,
+/// /picture, /slow (a second of small pieces), /never (no answer), /echo (the body comes back), all
+/// else is 404.
+class DemoServer : public QTcpServer {
+    Q_OBJECT
+
+public:
+    /// The host name that stands for this server in a URL that the user types.
+    static const QString Name;
+
+    DemoServer();
+
+    /// Returns \a url with Name replaced by the server's address.
+    QUrl Resolve(const QUrl &url) const;
+
+private:
+    void Accept();
+    void Read(QTcpSocket *socket);
+    void Answer(QTcpSocket *socket, const QByteArray &method, const QByteArray &path,
+                const QByteArray &body);
+    void Send(QTcpSocket *socket, const QByteArray &status, const QByteArray &type,
+              const QByteArray &body);
+    void SendSlowly(QTcpSocket *socket);
+};
