@@ -169,7 +169,8 @@ private:
             : QStringLiteral("No answer. ");
         Tell(outcome + Failure());
         ShowHeaders();
-        const QByteArray body = m_reply->readAll();
+        // An aborted transfer has closed its device, which would warn.
+        const QByteArray body = m_reply->bytesAvailable() > 0 ? m_reply->readAll() : QByteArray();
         QPixmap picture;
         const bool isPicture =
             m_reply->rawHeader("Content-Type").startsWith("image/") && picture.loadFromData(body);
