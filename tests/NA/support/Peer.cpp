@@ -19,6 +19,12 @@ namespace {
 
 constexpr int StartMilliseconds = 20000;
 
+// Each byte as the character of its number, zero included.
+QString Text(const QByteArray &bytes)
+{
+    return QString::fromLatin1(bytes.constData(), bytes.size());
+}
+
 QString Script(const char *name)
 {
     return QStringLiteral(COMMONUI_PEERS "/") + QLatin1String(name);
@@ -131,7 +137,7 @@ bool Peer::WaitForConnection()
 
 Steps &Steps::Send(const QByteArray &bytes)
 {
-    return Add({ QStringLiteral("send"), QString::fromLatin1(bytes) });
+    return Add({ QStringLiteral("send"), Text(bytes) });
 }
 
 Steps &Steps::Fill(int count)
@@ -141,12 +147,12 @@ Steps &Steps::Fill(int count)
 
 Steps &Steps::Drip(const QByteArray &bytes, double seconds)
 {
-    return Add({ QStringLiteral("drip"), QString::fromLatin1(bytes), seconds });
+    return Add({ QStringLiteral("drip"), Text(bytes), seconds });
 }
 
 Steps &Steps::Endless(const QByteArray &bytes)
 {
-    return Add({ QStringLiteral("endless"), QString::fromLatin1(bytes) });
+    return Add({ QStringLiteral("endless"), Text(bytes) });
 }
 
 Steps &Steps::Read(int count)

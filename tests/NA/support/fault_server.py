@@ -6,7 +6,8 @@ Prints its port. Each request's path is "/" and base64url of a JSON list of step
     ["send", text]            the text's characters as bytes
     ["fill", count]           that many letters x
     ["drip", text, seconds]   one byte at a time, with a pause behind each
-    ["endless", text]         the text again and again, until the client goes
+    ["endless", text]         the text again and again, until the client goes; not as fast as it
+                              can, which no client would survive
     ["read", count]           so many bytes of the request's body
     ["upgrade"]               a WebSocket handshake as it should be
     ["echo"]                  the request as it came, as the body of a good answer
@@ -77,6 +78,7 @@ class Connection:
     def do_endless(self, _head, text):
         while True:
             self.client.sendall(text.encode("latin-1"))
+            time.sleep(0.001)
 
     def do_read(self, _head, count):
         self.take(count)
