@@ -38,6 +38,11 @@ void CFxUITextEdit::selectAll()
     ImplOf<CFxUITextEditImpl>(this)->SelectAllImpl();
 }
 
+void CFxUITextEdit::setFocus()
+{
+    ImplOf<CFxUITextEditImpl>(this)->SetFocusImpl();
+}
+
 void CFxUITextEdit::setPlaceholderText(const QString &text)
 {
     ImplOf<CFxUITextEditImpl>(this)->setPlaceholderText(text);

@@ -40,6 +40,9 @@ public:
 
     void SetTextImpl(const QString &text);
     void SelectAllImpl();
+
+    /// Reaches the frontend alone, where the base class takes any widget.
+    void SetFocusImpl();
     void SetPlaceholderTextImpl(const QString &text);
     void SetClearButtonEnabledImpl(bool enabled);
     void SetInputMaskImpl(const QString &mask);

@@ -32,6 +32,10 @@ public:
     /// QLineEdit::selectAll.
     void selectAll();
 
+    /// QWidget::setFocus with Qt::OtherFocusReason.
+    void setFocus();
+    using CFxUIBaseView::setFocus;
+
     /// Shown while the field is empty (QLineEdit::setPlaceholderText). Default: a null string.
     void setPlaceholderText(const QString &text);
     QString placeholderText() const;

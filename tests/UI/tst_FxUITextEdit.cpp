@@ -78,6 +78,7 @@ private Q_SLOTS:
     void clearEmptiesTheField();
     void clearOfAnEmptyFieldDoesNothing();
     void stateIsKeptWithoutHandle();
+    void fieldOfAForeignHandleIsLeftAlone();
     void hasFocusStaysFalse();
 };
 
@@ -362,6 +363,34 @@ void tst_FxUITextEdit::stateIsKeptWithoutHandle()
     QVERIFY(edit.isClearButtonEnabled());
     QCOMPARE(edit.inputMask(), A);
     QVERIFY(Probe::ReadOnly(edit));
+}
+
+void tst_FxUITextEdit::fieldOfAForeignHandleIsLeftAlone()
+{
+    CFxUITextEdit edit;
+    delete edit.getHandle();
+    QLineEdit foreign(B); // a field, but not the frontend
+    foreign.setVisible(true);
+    QApplication::setActiveWindow(&foreign);
+    QVERIFY(QTest::qWaitForWindowActive(&foreign));
+    foreign.clearFocus();
+    edit.setHandle(&foreign);
+    edit.setText(A);
+    edit.setPlaceholderText(A);
+    edit.setClearButtonEnabled(true);
+    edit.setInputMask(A);
+    edit.setReadOnly(true);
+    edit.selectAll();
+    edit.setFocus();
+    QCOMPARE(edit.text(), A);
+    QCOMPARE(foreign.text(), B);
+    QVERIFY(foreign.placeholderText().isEmpty());
+    QVERIFY(!foreign.isClearButtonEnabled());
+    QVERIFY(foreign.inputMask().isEmpty());
+    QVERIFY(!foreign.isReadOnly());
+    QVERIFY(!foreign.hasSelectedText());
+    QVERIFY(!foreign.hasFocus());
+    edit.setHandle(nullptr);
 }
 
 void tst_FxUITextEdit::hasFocusStaysFalse()

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void policySetsTheWidth_data();
     void policySetsTheWidth();
     void policyIsMediumByDefault();
+    void policyLeavesTheWidgetAlone();
     void setTextShowsMarkupAsCharacters();
     void setTextReplacesAnyContent_data();
     void setTextReplacesAnyContent();
@@ -160,6 +161,16 @@ void tst_FxUITextView::policyIsMediumByDefault()
 {
     CFxUITextView view;
     QCOMPARE(view.width(), 158);
+}
+
+void tst_FxUITextView::policyLeavesTheWidgetAlone()
+{
+    const CFxUITextView small(CFxUIBaseView::Small);
+    const CFxUITextView large(CFxUIBaseView::Large);
+    QCOMPARE(Widget(small)->size(), Widget(large)->size());
+    QCOMPARE(Widget(small)->sizeHint(), Widget(large)->sizeHint());
+    QCOMPARE(Widget(small)->minimumSize(), QSize(0, 0));
+    QCOMPARE(Widget(small)->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
 void tst_FxUITextView::setTextShowsMarkupAsCharacters()

@@ -33,6 +33,12 @@ void CFxUITextEditImpl::SelectAllImpl()
         frontend->selectAll();
 }
 
+void CFxUITextEditImpl::SetFocusImpl()
+{
+    if (auto *frontend = FrontendCast<CFxUITextEditFrontend>(owner))
+        frontend->setFocus(Qt::OtherFocusReason);
+}
+
 void CFxUITextEditImpl::SetPlaceholderTextImpl(const QString &text)
 {
     if (auto *frontend = FrontendCast<CFxUITextEditFrontend>(owner))
