@@ -83,8 +83,8 @@ public:
     /// Returns !isFinished().
     bool isRunning() const;
 
-    /// Returns the code that error() was emitted with, NoError if it wasn't. On an object that
-    /// isn't const, `error()` names the signal; std::as_const reaches this one.
+    /// Returns the code of the last error, also while signals are blocked; NoError without one. On
+    /// an object that isn't const, `error()` names the signal; std::as_const reaches this one.
     NetworkError error() const;
 
     /// Returns QNetworkReply::errorString() as of the error, empty without one.

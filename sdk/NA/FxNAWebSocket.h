@@ -46,7 +46,8 @@ public:
     /// Emitted with a number of QAbstractSocket::SocketError.
     CFxUISignal<void(int)> &error();
 
-    /// Emitted when the connection is closed, by either side.
+    /// Emitted when the network connection has ended, by either side, or couldn't be made. An
+    /// error() of the same failure comes before it or after it, as Qt reports it.
     CFxUISignal<void()> &disconnected();
 
     /// Emitted with the text of each message received.
