@@ -8,6 +8,7 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QWidget>
 
 namespace {
@@ -30,6 +31,7 @@ public:
     {
     }
 
+    using GalleryPanel::AddActions;
     using GalleryPanel::AddHeading;
     using GalleryPanel::AddNote;
     using GalleryPanel::AddRow;
@@ -83,6 +85,7 @@ private Q_SLOTS:
     void refreshShowsAChangeThatNoSignalTells();
     void columnsAreAligned();
     void wideRowTakesTheSpareHeight();
+    void actionsRunAndRefreshTheRow();
     void titleStandsInTheFrame();
 };
 
@@ -220,6 +223,31 @@ void tst_GalleryPanel::wideRowTakesTheSpareHeight()
             QCOMPARE(place.width(), window.width() - 40);
             QVERIFY(place.height() > 200);
         });
+}
+
+void tst_GalleryPanel::actionsRunAndRefreshTheRow()
+{
+    RecordingHost host;
+    int count = 0;
+    RunPanel(
+        host,
+        [&](auto &panel) {
+            GalleryRow row =
+                panel.AddRow("Label", new CFxUILabel, [&] { return GalleryText(count); });
+            panel.AddActions(row,
+                             { { "Once", [&] { ++count; } }, { "Twice", [&] { count += 2; } } });
+        },
+        [&](const QWidget &window) {
+            const QList<QPushButton *> buttons = window.findChildren<QPushButton *>();
+            QCOMPARE(buttons.size(), 2);
+            QCOMPARE(buttons.at(1)->text(), QStringLiteral("Twice"));
+            QVERIFY(Place(*buttons.at(1)).left() > Place(*buttons.at(0)).right());
+            QTest::mouseClick(buttons.at(0), Qt::LeftButton);
+            QTest::mouseClick(buttons.at(1), Qt::LeftButton);
+            QCOMPARE(count, 3);
+            QVERIFY(LabelWith(window, QStringLiteral("<span>3</span>")));
+        });
+    QCOMPARE(host.lines, QStringList());
 }
 
 void tst_GalleryPanel::titleStandsInTheFrame()

@@ -2,6 +2,7 @@
 
 #include "UI/FxUIHorizontalLayout.h"
 #include "UI/FxUILabel.h"
+#include "UI/FxUIPushButton.h"
 #include "UI/FxUIVerticalLayout.h"
 
 namespace {
@@ -97,6 +98,23 @@ GalleryRow GalleryPanel::AddWideRow(const char *caption, CFxUIBaseView *control,
     GetLayout()->addView(control, 1);
     m_filled = true;
     return { m_host, object, answer, std::move(answers) };
+}
+
+void GalleryPanel::AddActions(const GalleryRow &row, const std::vector<Action> &actions)
+{
+    auto *line = new CFxUIHorizontalLayout;
+    line->setSpacing(Spacing);
+    for (const Action &action : actions) {
+        auto *button = new CFxUIPushButton;
+        button->setText(QString::fromUtf8(action.text));
+        button->clicked().connect([changed = GalleryRow(row), run = action.run](bool) mutable {
+            run();
+            changed.Refresh();
+        });
+        line->addView(button);
+    }
+    line->addView(new CFxUIHorizontalLayout, 1);
+    GetLayout()->addView(line);
 }
 
 CFxUILabel *GalleryPanel::MakeLabel(const QString &text, int width) const

@@ -4,6 +4,7 @@
 #include "UI/FxUIDialog.h"
 
 #include <functional>
+#include <vector>
 
 class CFxUIBaseView;
 class CFxUILabel;
@@ -46,6 +47,15 @@ protected:
     /// Adds a control over the whole width, caption and answer above it. It takes the spare height
     /// of the panel.
     GalleryRow AddWideRow(const char *caption, CFxUIBaseView *control, Answers answers = {});
+
+    /// What a button of a panel does.
+    struct Action {
+        const char *text;
+        std::function<void()> run;
+    };
+
+    /// Adds a line of buttons. After each action the getters of \a row are asked again.
+    void AddActions(const GalleryRow &row, const std::vector<Action> &actions);
 
     /// Returns the host's log, for what no row tells.
     IGalleryHost &Host() const { return *m_host; }
