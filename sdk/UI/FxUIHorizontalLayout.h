@@ -12,9 +12,11 @@ public:
     CFxUIHorizontalLayout();
     ~CFxUIHorizontalLayout() override;
 
-    /// Sets the margins in pixels (QLayout::setContentsMargins). Default: 0 on all sides.
+    /// Sets the margins in pixels (QLayout::setContentsMargins); below 0 the style's own. Default:
+    /// 0 on all sides.
     void setContentsMargins(int left, int top, int right, int bottom);
 
-    /// Sets the space between the children in pixels (QBoxLayout::setSpacing). Default: Qt's.
+    /// Sets the space between the children in pixels (QBoxLayout::setSpacing); below 0 the
+    /// style's own, which is the default.
     void setSpacing(int spacing);
 };

@@ -17,6 +17,7 @@ void CFxUIVerticalLayoutImpl::CreateFrontendControl()
     frontend->setStyleSheet(QStringLiteral("QGroupBox { border: none; padding: 0px; }"));
     owner->setHandle(frontend);
     frontend->impl = this;
+    m_frontend = frontend;
     auto *layout = new QVBoxLayout(frontend);
     layout->setContentsMargins(0, 0, 0, 0);
 }
@@ -66,6 +67,6 @@ void CFxUIVerticalLayoutImpl::SetSpacingImpl(int spacing)
 
 void CFxUIVerticalLayoutImpl::DetachFrontendImpl()
 {
-    if (auto *frontend = FrontendCast<CFxUIVertLayoutFrontend>(owner))
+    if (auto *frontend = qobject_cast<CFxUIVertLayoutFrontend *>(m_frontend.data()))
         frontend->impl = nullptr;
 }

