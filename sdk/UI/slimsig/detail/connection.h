@@ -74,7 +74,7 @@ public:
     }
 
     /// Disconnects what was owned, then takes over what \a other owns.
-    scoped_connection &operator=(scoped_connection &&other)
+    scoped_connection &operator=(scoped_connection &&other) noexcept
     {
         connection_type taken = other.release();
         m_connection.disconnect();
