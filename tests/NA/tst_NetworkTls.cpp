@@ -9,8 +9,7 @@
 #include <QtCore/QFile>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
-#include <QtNetwork/QSslConfiguration>
-#include <QtNetwork/QSslError>
+#include <QtNetwork/QSslSocket>
 #include <QtTest/QTest>
 
 using Reply = CFxNANetworkReply;
@@ -18,28 +17,6 @@ using Reply = CFxNANetworkReply;
 namespace {
 
 const QString Https = QStringLiteral("https");
-
-// Trusts an authority besides those of the system, in Qt's default configuration; undone at the
-// end.
-class Trust {
-public:
-    explicit Trust(const QString &authority)
-        : m_former(QSslConfiguration::defaultConfiguration())
-    {
-        QSslConfiguration trusting = m_former;
-        trusting.setCaCertificates(m_former.caCertificates()
-                                   + QSslCertificate::fromPath(authority));
-        QSslConfiguration::setDefaultConfiguration(trusting);
-    }
-
-    ~Trust() { QSslConfiguration::setDefaultConfiguration(m_former); }
-
-    Trust(const Trust &) = delete;
-    Trust &operator=(const Trust &) = delete;
-
-private:
-    QSslConfiguration m_former;
-};
 
 } // namespace
 
@@ -83,7 +60,7 @@ void tst_NetworkTls::initTestCase()
 
 void tst_NetworkTls::trustedServerFiresEncryptedFirst()
 {
-    const Trust trust(files.Authority());
+    const TrustedAuthority trust(files.Authority());
     CFxNANetworkAccessManager manager;
     const CFxNANetworkRequest request(nginx.Url(QStringLiteral("/small.txt"), Https));
     Transfer transfer(manager.get(request));
@@ -101,7 +78,7 @@ void tst_NetworkTls::trustedServerFiresEncryptedFirst()
 
 void tst_NetworkTls::blockedSignalsSilenceEncrypted()
 {
-    const Trust trust(files.Authority());
+    const TrustedAuthority trust(files.Authority());
     CFxNANetworkAccessManager manager;
     const CFxNANetworkRequest request(nginx.Url(QStringLiteral("/small.txt"), Https));
     Transfer transfer(manager.get(request));
@@ -141,7 +118,7 @@ void tst_NetworkTls::untrustedServerIgnoredThroughTheQtReply()
 
 void tst_NetworkTls::wrongHostNameEndsInAnError()
 {
-    const Trust trust(files.Authority());
+    const TrustedAuthority trust(files.Authority());
     CFxNANetworkAccessManager manager;
     const CFxNANetworkRequest request(
         QUrl(QStringLiteral("https://localhost:%1/").arg(fault.Port())));
@@ -204,7 +181,7 @@ void tst_NetworkTls::serverThatNeverShakesHands()
 // As without TLS: Qt reports the early end, or none, by chance.
 void tst_NetworkTls::bodyCutShort()
 {
-    const Trust trust(files.Authority());
+    const TrustedAuthority trust(files.Authority());
     CFxNANetworkAccessManager manager;
     const CFxNANetworkRequest request(fault.Url(
         Steps().Send("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nbody").Close().Path(), Https));

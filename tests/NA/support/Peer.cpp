@@ -85,6 +85,12 @@ QString Peer::Fault() const
     return m_fault;
 }
 
+QByteArray Peer::ReadLine()
+{
+    while (!m_process.canReadLine() && m_process.waitForReadyRead(StartMilliseconds)) { }
+    return m_process.readLine().trimmed();
+}
+
 QUrl Peer::Url(const QString &path, const QString &scheme) const
 {
     return QUrl(QStringLiteral("%1://127.0.0.1:%2%3").arg(scheme).arg(m_port).arg(path));
@@ -94,15 +100,13 @@ bool Peer::StartPrinting(const QString &program, const QStringList &arguments)
 {
     if (!StartProgram(program, arguments))
         return false;
-    while (!m_process.canReadLine()) {
-        if (!m_process.waitForReadyRead(StartMilliseconds)) {
-            m_fault = QStringLiteral("%1 %2 told no port: %3")
-                          .arg(program, arguments.join(QLatin1Char(' ')),
-                               QString::fromLocal8Bit(m_process.readAllStandardError()));
-            return false;
-        }
+    m_port = ReadLine().toUShort();
+    if (!m_port) {
+        m_fault = QStringLiteral("%1 %2 told no port: %3")
+                      .arg(program, arguments.join(QLatin1Char(' ')),
+                           QString::fromLocal8Bit(m_process.readAllStandardError()));
+        return false;
     }
-    m_port = m_process.readLine().trimmed().toUShort();
     return WaitForConnection();
 }
 

@@ -45,6 +45,9 @@ public:
     quint16 Port() const;
     QString Fault() const;
 
+    /// Waits for the next line that the server prints; empty if none comes.
+    QByteArray ReadLine();
+
     /// The URL of a path on this server.
     QUrl Url(const QString &path, const QString &scheme = QStringLiteral("http")) const;
 

@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
+#include <QtNetwork/QSslCertificate>
+#include <QtNetwork/QSslConfiguration>
 
 /// A certificate authority of this run's own and a certificate for 127.0.0.1 that it signed, made
 /// by openssl, as PEM files that go with this object.
@@ -57,4 +59,26 @@ private:
 
     QTemporaryDir m_folder;
     QString m_fault;
+};
+
+/// Trusts an authority besides those of the system, in Qt's default configuration; undone at the
+// end.
+class TrustedAuthority {
+public:
+    explicit TrustedAuthority(const QString &authority)
+        : m_former(QSslConfiguration::defaultConfiguration())
+    {
+        QSslConfiguration trusting = m_former;
+        trusting.setCaCertificates(m_former.caCertificates()
+                                   + QSslCertificate::fromPath(authority));
+        QSslConfiguration::setDefaultConfiguration(trusting);
+    }
+
+    ~TrustedAuthority() { QSslConfiguration::setDefaultConfiguration(m_former); }
+
+    TrustedAuthority(const TrustedAuthority &) = delete;
+    TrustedAuthority &operator=(const TrustedAuthority &) = delete;
+
+private:
+    QSslConfiguration m_former;
 };
