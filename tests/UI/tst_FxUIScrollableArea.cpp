@@ -30,8 +30,8 @@ QWidget *WidgetOf(const CFxUIBaseView &view)
     return qobject_cast<QWidget *>(view.getHandle());
 }
 
-/// An area on the screen whose content is wider and much higher than it is, with a row of 20 pixels
-/// at 500 from the top.
+/// An area in a window on the screen, whose content is wider and much higher than it is, with a row
+/// of 20 pixels at 500 from the top.
 class ScrolledArea {
 public:
     ScrolledArea()
@@ -41,8 +41,11 @@ public:
         content->setMinimumHeight(3000);
         rowWidget->setParent(WidgetOf(*content));
         rowWidget->setGeometry(0, 500, 50, 20);
+        // A child, so that no window manager has a say in its size.
+        widget->setParent(&window);
+        widget->setGeometry(0, 0, 200, 200);
         area->setVisible(true);
-        widget->resize(200, 200);
+        window.show();
         QCoreApplication::processEvents();
         horizontal->setValue(100);
     }
@@ -51,6 +54,7 @@ public:
 
     int ViewportHeight() const { return widget->viewport()->height(); }
 
+    QWidget window;
     std::unique_ptr<CFxUIScrollableArea> area = std::make_unique<CFxUIScrollableArea>();
     CFxUILabel *content = new CFxUILabel;
     std::unique_ptr<CFxUILabel> row = std::make_unique<CFxUILabel>();
