@@ -4,21 +4,33 @@
 #include "UI/Impl/FxUITimerImpl.h"
 
 #include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
+#include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 
 #include <memory>
+#include <stdexcept>
 #include <type_traits>
 
 static_assert(std::is_base_of_v<CFxUIObject, CFxUITimer>);
 static_assert(!std::is_copy_constructible_v<CFxUITimer>);
+static_assert(
+    std::is_same_v<decltype(std::declval<CFxUITimer &>().timeout()), CFxUISignal<void()> &>);
 
 namespace {
 
 QTimer *QtTimer(const CFxUITimer &timer)
 {
     return qobject_cast<QTimer *>(timer.getHandle());
+}
+
+// Lets the timer fire, at once.
+void Fire(const CFxUITimer &timer)
+{
+    QTimerEvent event(QtTimer(timer)->timerId());
+    QCoreApplication::sendEvent(QtTimer(timer), &event);
 }
 
 } // namespace
@@ -33,12 +45,19 @@ private Q_SLOTS:
     void stateIsWrittenBeforeTheEmission();
     void blockedSignalsSilenceFiringsAndKeepTheState();
     void stopOnAStoppedTimerOnlySetsTheFlag();
+    void stopAfterAFiringEndsTheTimer();
     void startRestartsWithTheNewInterval();
+    void startAfterAFiringSetsTheFlagAgain();
+    void slotRunsOnTheStackOfTheEvent();
+    void exceptionOfASlotPassesThroughTheEvent();
     void negativeIntervalGoesToQtUnchecked();
     void startAndStopWithoutHandleChangeTheFlagAlone();
     void deletedWhileRunningDoesNotFire();
     void destructionDeletesTheTimerAtOnce();
     void singleShotRunsFromTheEventLoop();
+    void singleShotKeepsACopyUntilItHasRun();
+    void singleShotRunsInTheThreadThatAsked();
+    void singleShotIsNoneOfATimersBusiness();
     void singleShotTimerType_data();
     void singleShotTimerType();
 };
@@ -107,6 +126,17 @@ void tst_FxUITimer::stopOnAStoppedTimerOnlySetsTheFlag()
     QVERIFY(!QtTimer(timer)->isActive());
 }
 
+void tst_FxUITimer::stopAfterAFiringEndsTheTimer()
+{
+    CFxUITimer timer;
+    timer.start(5000);
+    Fire(timer);
+    QVERIFY(!timer.isActive());
+    QVERIFY(QtTimer(timer)->isActive());
+    timer.stop();
+    QVERIFY(!QtTimer(timer)->isActive());
+}
+
 void tst_FxUITimer::startRestartsWithTheNewInterval()
 {
     CFxUITimer timer;
@@ -114,6 +144,39 @@ void tst_FxUITimer::startRestartsWithTheNewInterval()
     timer.start(6000);
     QVERIFY(timer.isActive());
     QCOMPARE(QtTimer(timer)->interval(), 6000);
+}
+
+void tst_FxUITimer::startAfterAFiringSetsTheFlagAgain()
+{
+    CFxUITimer timer;
+    timer.start(5000);
+    Fire(timer);
+    timer.start(5000);
+    QVERIFY(timer.isActive());
+    Fire(timer);
+    QVERIFY(!timer.isActive());
+}
+
+void tst_FxUITimer::slotRunsOnTheStackOfTheEvent()
+{
+    CFxUITimer timer;
+    int firings = 0;
+    timer.timeout().connect([&firings] { ++firings; });
+    timer.start(5000);
+    Fire(timer);
+    QCOMPARE(firings, 1);
+    Fire(timer);
+    QCOMPARE(firings, 2);
+}
+
+void tst_FxUITimer::exceptionOfASlotPassesThroughTheEvent()
+{
+    CFxUITimer timer;
+    timer.timeout().connect([] { throw std::runtime_error("slot"); });
+    timer.start(5000);
+    QVERIFY_EXCEPTION_THROWN(Fire(timer), std::runtime_error);
+    QVERIFY(!timer.isActive());
+    QVERIFY(QtTimer(timer)->isActive());
 }
 
 void tst_FxUITimer::negativeIntervalGoesToQtUnchecked()
@@ -164,6 +227,48 @@ void tst_FxUITimer::singleShotRunsFromTheEventLoop()
     CFxUITimer::singleShot(0, [&calls] { ++calls; });
     QCOMPARE(calls, 0);
     QTRY_COMPARE(calls, 1);
+}
+
+void tst_FxUITimer::singleShotKeepsACopyUntilItHasRun()
+{
+    const auto token = std::make_shared<int>(0);
+    bool called = false;
+    std::function<void()> callable = [token, &called] { called = true; };
+    CFxUITimer::singleShot(0, callable);
+    callable = nullptr;
+    QVERIFY(token.use_count() > 1);
+    QTRY_VERIFY(called);
+    QCOMPARE(token.use_count(), 1L);
+}
+
+void tst_FxUITimer::singleShotRunsInTheThreadThatAsked()
+{
+    QThread *ran = nullptr;
+    const std::unique_ptr<QThread> thread(QThread::create([&ran] {
+        QEventLoop loop;
+        CFxUITimer::singleShot(0, [&] {
+            ran = QThread::currentThread();
+            loop.quit();
+        });
+        loop.exec();
+    }));
+    thread->start();
+    QVERIFY(thread->wait());
+    QCOMPARE(ran, thread.get());
+}
+
+void tst_FxUITimer::singleShotIsNoneOfATimersBusiness()
+{
+    CFxUITimer timer;
+    int firings = 0;
+    bool called = false;
+    timer.timeout().connect([&firings] { ++firings; });
+    timer.blockSignals(true);
+    timer.singleShot(0, [&called] { called = true; });
+    timer.stop();
+    QTRY_VERIFY(called);
+    QCOMPARE(firings, 0);
+    QVERIFY(!timer.isActive());
 }
 
 void tst_FxUITimer::singleShotTimerType_data()
