@@ -8,6 +8,10 @@
 #include <memory>
 #include <type_traits>
 
+#if defined(emit) || defined(signals) || defined(slots)
+#error "this source is compiled without Qt's keywords; its twin has them"
+#endif
+
 namespace {
 
 /// A signal that shows its fields.
