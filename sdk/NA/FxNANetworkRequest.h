@@ -122,6 +122,6 @@ public:
     int requestTimeout() const;
 
 protected:
-    CFxNANetworkRequestImpl *m_impl; // owned
-    QNetworkRequest *m_handle; // owned; written by the implementation object
+    CFxNANetworkRequestImpl *m_impl = nullptr; // owned
+    QNetworkRequest *m_handle = nullptr; // owned; written by the implementation object
 };

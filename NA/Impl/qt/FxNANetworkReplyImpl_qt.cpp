@@ -50,7 +50,9 @@ static_assert(int(Ours::ServiceUnavailableError) == int(Qts::ServiceUnavailableE
 static_assert(int(Ours::UnknownServerError) == int(Qts::UnknownServerError));
 
 // Kept for form; no operation reads it. Intended.
-[[maybe_unused]] const QList<QPair<QByteArray, QByteArray>> g_emptyRawHeaderPairsList;
+using RawHeaderPairs = QList<QPair<QByteArray, QByteArray>>;
+[[maybe_unused]] const RawHeaderPairs
+    g_emptyRawHeaderPairsList; // clazy:exclude=non-pod-global-static
 
 // QNetworkReply::error, not errorOccurred: Qt repeats the one as the other, and a reply of a class
 // that knows the old signal alone is heard, too.
