@@ -220,7 +220,7 @@ void tst_GalleryPanel::wideRowTakesTheSpareHeight()
         },
         [&](const QWidget &window) {
             const QRect place = Place(*qobject_cast<QWidget *>(label->getHandle()));
-            QCOMPARE(place.width(), window.width() - 40);
+            QCOMPARE(place.width(), window.width() - 36);
             QVERIFY(place.height() > 200);
         });
 }

@@ -11,7 +11,7 @@
 namespace {
 
 // Wide enough for the columns of a panel; a panel that needs more gets it.
-constexpr int LeastWidth = 760;
+constexpr int LeastWidth = 860;
 constexpr int LeastHeight = 200;
 
 /// Calls a function once, when the window is about to be shown for the first time: the dialog's

@@ -7,11 +7,15 @@
 
 namespace {
 
-constexpr int Margin = 20;
-constexpr int Spacing = 8;
+constexpr int Margin = 18;
+constexpr int Spacing = 6;
 constexpr int ColumnSpacing = 14;
 constexpr int CaptionWidth = 150;
 constexpr int RowHeight = 32;
+constexpr int ActionHeight = 26;
+constexpr int ActionPadding = 20;
+constexpr int LetterWidth = 7; // of most texts, about
+constexpr int ActionSpacing = 8;
 constexpr int HeadingSpacing = 6; // above a heading, beside Spacing
 constexpr int AnswerHeight = 40; // two lines, so that a first signal moves nothing
 
@@ -103,10 +107,13 @@ GalleryRow GalleryPanel::AddWideRow(const char *caption, CFxUIBaseView *control,
 void GalleryPanel::AddActions(const GalleryRow &row, const std::vector<Action> &actions)
 {
     auto *line = new CFxUIHorizontalLayout;
-    line->setSpacing(Spacing);
+    line->setSpacing(ActionSpacing);
+    line->setContentsMargins(CaptionWidth + ColumnSpacing, 0, 0, 0);
     for (const Action &action : actions) {
         auto *button = new CFxUIPushButton;
         button->setText(QString::fromUtf8(action.text));
+        button->setMinimumWidth(button->text().size() * LetterWidth + ActionPadding);
+        button->setMinimumHeight(ActionHeight);
         button->clicked().connect([changed = GalleryRow(row), run = action.run](bool) mutable {
             run();
             changed.Refresh();
@@ -136,7 +143,8 @@ GalleryRow GalleryPanel::AddColumns(const char *caption, CFxUIBaseView *control,
     const QString object = QString::fromUtf8(caption);
     CFxUILabel *captionLabel = MakeLabel(object, CaptionWidth);
     CFxUILabel *answer = MakeLabel({}, 0);
-    answer->setMinimumHeight(AnswerHeight);
+    if (answers)
+        answer->setMinimumHeight(AnswerHeight);
     if (tall) {
         captionLabel->setTextAlignment(CFxUIBaseView::AlignLeft);
         answer->setTextAlignment(CFxUIBaseView::AlignLeft);

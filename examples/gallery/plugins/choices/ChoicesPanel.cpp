@@ -3,8 +3,6 @@
 #include "UI/FxUICheckBox.h"
 #include "UI/FxUIComboBox.h"
 #include "UI/FxUIGroupBox.h"
-#include "UI/FxUIHorizontalLayout.h"
-#include "UI/FxUIPushButton.h"
 #include "UI/FxUIRadioButton.h"
 #include "UI/FxUIRadioGroup.h"
 
@@ -12,14 +10,6 @@
 #include <QtGui/QPixmap>
 
 namespace {
-
-CFxUIPushButton *MakeButton(const char *text, const std::function<void()> &act)
-{
-    auto *button = new CFxUIPushButton;
-    button->setText(QString::fromUtf8(text));
-    button->clicked().connect([act](bool) { act(); });
-    return button;
-}
 
 QIcon ColorIcon(const QColor &color)
 {
@@ -50,10 +40,10 @@ private:
                 "which emits the pair twice: that is meant.");
         auto *grid = new CFxUICheckBox;
         grid->setText(QStringLiteral("Show grid"));
-        AddCheckBoxRow("Two states", grid);
-        AddRow("From a program", MakeButton("setChecked(!isChecked())", [grid] {
-                   grid->setChecked(!grid->isChecked());
-               }));
+        const GalleryRow row = AddCheckBoxRow("Two states", grid);
+        AddActions(row, { { "setChecked(!isChecked())", [grid] {
+                               grid->setChecked(!grid->isChecked());
+                           } } });
 
         auto *layers = new CFxUICheckBox;
         layers->setText(QStringLiteral("All layers"));
@@ -64,28 +54,26 @@ private:
         layers->setCheckState(CFxUICheckBox::PartiallyChecked);
     }
 
-    void AddCheckBoxRow(const char *caption, CFxUICheckBox *box)
+    GalleryRow AddCheckBoxRow(const char *caption, CFxUICheckBox *box)
     {
         EmissionSequence sequence;
         sequence.Follow("stateChanged", box->stateChanged());
         sequence.Follow("toggled", box->toggled());
-        AddRow(caption, box,
-               [box, sequence] {
-                   return QStringLiteral("isChecked() %1, checkState() %2\n%3")
-                       .arg(GalleryText(box->isChecked()), GalleryText(box->checkState()),
-                            sequence.Text());
-               })
-            .Reports("stateChanged", box->stateChanged())
-            .Reports("toggled", box->toggled());
+        GalleryRow row = AddRow(caption, box, [box, sequence] {
+            return QStringLiteral("isChecked() %1, checkState() %2\n%3")
+                .arg(GalleryText(box->isChecked()), GalleryText(box->checkState()),
+                     sequence.Text());
+        });
+        row.Reports("stateChanged", box->stateChanged()).Reports("toggled", box->toggled());
+        return row;
     }
 
     void AddRadioButtons()
     {
         AddHeading("Radio group in a group box");
-        AddNote(
-            "isChecked() answers what a program has set last; a click doesn't change it. Select "
-            "a unit by hand, and the selected one still answers false. The group box keeps a "
-            "collapsed state, but hides nothing by itself.");
+        AddNote("isChecked() answers what a program has set last; a click doesn't change it. A "
+                "group box "
+                "hides nothing when it is collapsed.");
         auto *box = new CFxUIGroupBox;
         box->setTitle(QStringLiteral("Units"));
         box->setContentsMargins(9, 24, 9,
@@ -110,11 +98,11 @@ private:
             row.Reports("clicked", button->clicked()).Reports("toggled", button->toggled());
         row.Reports("onCollapsedStateChanged", box->onCollapsedStateChanged());
 
-        AddRow("From a program",
-               MakeButtons({
-                   MakeButton("check Inches", [buttons] { buttons.at(1)->setChecked(true); }),
-                   MakeButton("collapse", [box] { box->setCollapsed(!box->isCollapsed()); }),
-               }));
+        AddActions(row,
+                   {
+                       { "check Inches", [buttons] { buttons.at(1)->setChecked(true); } },
+                       { "collapse", [box] { box->setCollapsed(!box->isCollapsed()); } },
+                   });
         buttons.first()->setChecked(true);
     }
 
@@ -122,8 +110,7 @@ private:
     {
         AddHeading("Combo box");
         AddNote("Your choice emits activated, too; setCurrentIndex() doesn't. clear() keeps index "
-                "and text: clear while the first colour is the current one, and the new first item "
-                "comes in silence.");
+                "and text; a new first item then comes in silence.");
         auto *colors = new CFxUIComboBox;
         EmissionSequence sequence;
         sequence.Follow("activated", colors->activated());
@@ -131,7 +118,7 @@ private:
         sequence.Follow("currentStringChanged", colors->currentStringChanged());
         GalleryRow row = AddRow("Colour", colors, [colors, sequence] {
             return QStringLiteral(
-                       "count() %1, currentIndex() %2, currentText() %3, itemData() %4\n%5")
+                       "count() %1, currentIndex() %2\ncurrentText() %3, itemData() %4\n%5")
                 .arg(GalleryText(colors->count()), GalleryText(colors->currentIndex()),
                      GalleryText(colors->currentText()),
                      colors->itemData(colors->currentIndex()).toString(), sequence.Text());
@@ -140,35 +127,23 @@ private:
             .Reports("currentIndexChanged", colors->currentIndexChanged())
             .Reports("currentStringChanged", colors->currentStringChanged());
 
-        AddRow("From a program",
-               MakeButtons({
-                   MakeButton("next index",
-                              [colors] {
-                                  const int next = colors->currentIndex() + 1;
-                                  colors->setCurrentIndex(next < colors->count() ? next : 0);
-                              }),
-                   MakeButton("clear, then add",
-                              [colors, row, sequence]() mutable {
-                                  sequence.Restart();
-                                  colors->clear();
-                                  colors->addItem(ColorIcon(Qt::gray), QStringLiteral("Grey"),
-                                                  QStringLiteral("#a0a0a4"));
-                                  row.Refresh(); // neither need emit anything
-                              }),
-               }));
+        AddActions(row,
+                   { { "next index",
+                       [colors] {
+                           const int next = colors->currentIndex() + 1;
+                           colors->setCurrentIndex(next < colors->count() ? next : 0);
+                       } },
+                     { "clear, then add", [colors, sequence]() mutable {
+                          sequence.Restart();
+                          colors->clear();
+                          colors->addItem(ColorIcon(Qt::gray), QStringLiteral("Grey"),
+                                          QStringLiteral("#a0a0a4"));
+                      } } });
 
         colors->addItem(ColorIcon(Qt::red), QStringLiteral("Red"), QStringLiteral("#ff0000"));
         colors->addItem(ColorIcon(Qt::green), QStringLiteral("Green"), QStringLiteral("#00ff00"));
         colors->addItem(ColorIcon(Qt::blue), QStringLiteral("Blue"), QStringLiteral("#0000ff"));
         row.Refresh();
-    }
-
-    static CFxUIHorizontalLayout *MakeButtons(std::initializer_list<CFxUIPushButton *> buttons)
-    {
-        auto *line = new CFxUIHorizontalLayout;
-        for (CFxUIPushButton *button : buttons)
-            line->addView(button, 1);
-        return line;
     }
 };
 

@@ -34,6 +34,7 @@ CFxUITextView *MakeView(int height)
     auto *view = new CFxUITextView(CFxUIBaseView::ExtraLarge);
     view->setReadOnly(true);
     view->setMinimumHeight(height);
+    view->setMaximumHeight(height); // so that the panel fits a small screen
     return view;
 }
 
@@ -50,9 +51,8 @@ public:
 private:
     void Build() override
     {
-        AddNote(
-            "The host name demo stands for a small server that this panel runs: /text, /picture, "
-            "/slow, /never, /echo. Any other URL goes out as it is.");
+        AddNote("The host demo is a small server that this panel runs: /text, /picture, /slow, "
+                "/never, /echo. Other URLs go out as they are.");
         BuildRequest();
         BuildReply();
     }
@@ -93,7 +93,7 @@ private:
         AddTallRow("Headers", m_table);
         auto *content = new CFxUIVerticalLayout;
         m_picture = new CFxUILabel;
-        m_text = MakeView(90);
+        m_text = MakeView(110);
         content->addView(m_picture);
         content->addView(m_text, 1);
         m_picture->setVisible(false);

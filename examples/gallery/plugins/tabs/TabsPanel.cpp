@@ -3,6 +3,7 @@
 #include "UI/FxUIGroupBox.h"
 #include "UI/FxUILabel.h"
 #include "UI/FxUIStackedWidget.h"
+#include "UI/FxUIVerticalLayout.h"
 
 #include <memory>
 
@@ -10,12 +11,20 @@ namespace {
 
 constexpr int TabsHeight = 110;
 
-CFxUILabel *MakePage(const char *text)
+CFxUILabel *MakeText(const char *text)
 {
     auto *label = new CFxUILabel;
     label->setText(QString::fromUtf8(text));
     label->setWordWrap(true);
     return label;
+}
+
+CFxUIBaseView *MakePage(const char *text)
+{
+    auto *page = new CFxUIVerticalLayout;
+    page->setContentsMargins(10, 10, 10, 10);
+    page->addView(MakeText(text));
+    return page;
 }
 
 class TabsPanel : public GalleryPanel {
@@ -40,7 +49,7 @@ private:
         auto *group = new CFxUIGroupBox;
         group->setTitle(QStringLiteral("Export"));
         group->setContentsMargins(8, 24, 8, 8); // room for the title
-        CFxUILabel *content = MakePage("Hidden by a slot of onCollapsedStateChanged.");
+        CFxUILabel *content = MakeText("Hidden by a slot of onCollapsedStateChanged.");
         group->addView(content);
         group->onCollapsedStateChanged().connect(
             [content](bool collapsed) { content->setVisible(!collapsed); });
