@@ -42,8 +42,9 @@ private:
                      { "setItemText(0, \"x\")",
                        [this] { m_box->setItemText(0, QStringLiteral("x")); } } });
 
-        AddNote("The one source of valueChanged is OnItemSelected() of the implementation object. "
-                "Its number says whether any row is selected, 1 or 0:");
+        AddNote("valueChanged comes from OnItemSelected() of the implementation object alone; its "
+                "number "
+                "is 1 or 0:");
         AddActions(
             row,
             { { "OnItemSelected(1, true)", [this] { Impl()->OnItemSelected(1, true); } },
