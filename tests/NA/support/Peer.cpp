@@ -166,7 +166,8 @@ Steps &Steps::Read(int count)
 
 Steps &Steps::Upgrade()
 {
-    return Add({ QStringLiteral("upgrade") });
+    return Send("HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\n"
+                "Connection: Upgrade\r\nSec-WebSocket-Accept: @ACCEPT@\r\n\r\n");
 }
 
 Steps &Steps::Echo()

@@ -76,7 +76,7 @@ public:
     Steps &Drip(const QByteArray &bytes, double seconds);
     Steps &Endless(const QByteArray &bytes);
     Steps &Read(int count);
-    Steps &Upgrade();
+    Steps &Upgrade(); ///< a WebSocket's handshake as it should be
     Steps &Echo();
     Steps &Hang();
     Steps &Close();

@@ -25,6 +25,19 @@ public:
     {
     }
 
+    /// Runs the event loop until a condition of what is recorded holds; false if it doesn't in
+    /// time.
+    template <class Condition> bool Wait(Condition condition, int msec = 20000)
+    {
+        QTimer limit;
+        limit.setSingleShot(true);
+        QObject::connect(&limit, &QTimer::timeout, &m_loop, &QEventLoop::quit);
+        limit.start(msec);
+        while (!condition() && limit.isActive())
+            m_loop.exec();
+        return condition();
+    }
+
     /// Runs the event loop until \a event has come; false if it hasn't within the time.
     bool WaitFor(const QString &event, int msec = 20000)
     {
@@ -43,6 +56,18 @@ public:
         return Wait([&] { return messages.contains(text); }, msec);
     }
 
+    /// The events, each without its repetitions right behind it: Qt reports some errors once for
+    /// each line of an answer.
+    QStringList Events() const
+    {
+        QStringList distinct;
+        for (const QString &event : events) {
+            if (distinct.isEmpty() || distinct.last() != event)
+                distinct.append(event);
+        }
+        return distinct;
+    }
+
     QStringList events;
     QStringList messages;
 
@@ -51,17 +76,6 @@ private:
     {
         events.append(event);
         m_loop.quit();
-    }
-
-    template <class Condition> bool Wait(Condition condition, int msec)
-    {
-        QTimer limit;
-        limit.setSingleShot(true);
-        QObject::connect(&limit, &QTimer::timeout, &m_loop, &QEventLoop::quit);
-        limit.start(msec);
-        while (!condition() && limit.isActive())
-            m_loop.exec();
-        return condition();
     }
 
     QEventLoop m_loop;

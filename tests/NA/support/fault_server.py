@@ -3,13 +3,13 @@
 
 Prints its port. Each request's path is "/" and base64url of a JSON list of steps:
 
-    ["send", text]            the text's characters as bytes
+    ["send", text]            the text's characters as bytes; "@ACCEPT@" becomes what a WebSocket's
+                              handshake has to answer to the request's key
     ["fill", count]           that many letters x
     ["drip", text, seconds]   one byte at a time, with a pause behind each
     ["endless", text]         the text again and again, until the client goes; not as fast as it
                               can, which no client would survive
     ["read", count]           so many bytes of the request's body
-    ["upgrade"]               a WebSocket handshake as it should be
     ["echo"]                  the request as it came, as the body of a good answer
     ["hang"]                  waits until the client goes
     ["close"], ["reset"]      ends the connection in order, or with RST
@@ -38,6 +38,13 @@ class Gone(Exception):
     """The connection has ended."""
 
 
+def accept(head):
+    key = next(line.split(b":", 1)[1].strip() for line in head.split(b"\r\n")
+               if line.lower().startswith(b"sec-websocket-key:"))
+    digest = hashlib.sha1(key + b"258EAFA5-E914-47DA-95CA-C5AB0DC85B11").digest()
+    return base64.b64encode(digest).decode()
+
+
 class Connection:
     def __init__(self, client):
         self.client = client
@@ -64,7 +71,9 @@ class Connection:
         for name, *arguments in steps:
             getattr(self, "do_" + name)(head, *arguments)
 
-    def do_send(self, _head, text):
+    def do_send(self, head, text):
+        if "@ACCEPT@" in text:
+            text = text.replace("@ACCEPT@", accept(head))
         self.client.sendall(text.encode("latin-1"))
 
     def do_fill(self, _head, count):
@@ -82,14 +91,6 @@ class Connection:
 
     def do_read(self, _head, count):
         self.take(count)
-
-    def do_upgrade(self, head):
-        key = next(line.split(b":", 1)[1].strip() for line in head.split(b"\r\n")
-                   if line.lower().startswith(b"sec-websocket-key:"))
-        digest = hashlib.sha1(key + b"258EAFA5-E914-47DA-95CA-C5AB0DC85B11").digest()
-        self.client.sendall(b"HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\n"
-                            b"Connection: Upgrade\r\nSec-WebSocket-Accept: "
-                            + base64.b64encode(digest) + b"\r\n\r\n")
 
     def do_echo(self, head):
         length = next((int(line.split(b":", 1)[1]) for line in head.split(b"\r\n")
