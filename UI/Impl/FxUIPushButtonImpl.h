@@ -2,6 +2,7 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtGui/QIcon>
@@ -60,4 +61,5 @@ protected:
     QSize m_iconSize; // -1 by -1, then the widget's own
     bool m_elideText = false;
     CFxUISignal<void(bool)> m_clicked; ///< emitted when the button is clicked with true
+    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

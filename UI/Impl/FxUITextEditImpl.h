@@ -2,6 +2,7 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 /// Implementation object of CFxUITextEdit.
@@ -62,4 +63,5 @@ protected:
     CFxUISignal<void()> m_editingFinished; ///< emitted by OnEditingFinished(), so never
     CFxUISignal<void(QString)> m_textEdited; ///< emitted behind the handler's textChanged
     CFxUISignal<void(int, int)> m_keyPressed; ///< emitted before the widget sees the key
+    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

@@ -2,6 +2,7 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 /// Implementation object of CFxUITextView.
@@ -66,4 +67,5 @@ protected:
     CFxUISignal<void()> m_focusInEventSignal; ///< emitted when the widget gets the focus
     CFxUISignal<void()> m_focusOutEventSignal; ///< emitted when the widget loses the focus
     CFxUISignal<void(int, int)> m_keyPressed; ///< emitted before the widget sees the key
+    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

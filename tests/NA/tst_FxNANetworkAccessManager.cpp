@@ -56,6 +56,7 @@ private Q_SLOTS:
     void frontendClassNameIsEmpty();
     void qtManagerStaysAsQtBuiltIt();
     void destructionDeletesTheQtManagerAtOnce();
+    void theImplementationsEndClearsAForeignHandle();
     void repliesStandOutsideTheTree();
     void everyOperationReturnsARunningReplyWithItsRequest_data();
     void everyOperationReturnsARunningReplyWithItsRequest();
@@ -336,6 +337,17 @@ void tst_FxNANetworkAccessManager::managerWithoutHandleSendsNothing()
     QVERIFY(!reply->getHandle());
     QVERIFY(reply->isRunning());
     QCOMPARE(reply->request(), &request);
+}
+
+void tst_FxNANetworkAccessManager::theImplementationsEndClearsAForeignHandle()
+{
+    CFxNANetworkAccessManager manager;
+    delete manager.getHandle();
+    QObject foreign;
+    manager.setHandle(&foreign);
+    delete manager.impl;
+    manager.impl = nullptr;
+    QVERIFY(!manager.getHandle());
 }
 
 int main(int argc, char **argv)

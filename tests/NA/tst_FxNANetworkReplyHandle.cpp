@@ -46,6 +46,7 @@ private Q_SLOTS:
     void overNullItRunsForEver();
     void destructionDeletesTheQtReplyWithTheEventLoop();
     void destructionLeavesAnotherObjectAlone();
+    void theImplementationsEndClearsTheHandle();
     void whenQtDeletesTheReplyFirstTheSnapshotStays();
     void withoutHandleTheEndIsStillReported();
     void aReplacedHandleIsAsked();
@@ -182,6 +183,18 @@ void tst_FxNANetworkReplyHandle::aReplacedHandleIsAsked()
     first->Finish();
     QCOMPARE(reply.readAll(), QByteArray("second"));
     QCOMPARE(ImplementationOf(reply).*Fields::httpStatus, 201);
+}
+
+void tst_FxNANetworkReplyHandle::theImplementationsEndClearsTheHandle()
+{
+    QObject other;
+    for (QObject *handle : { static_cast<QObject *>(new FakeReply), &other }) {
+        CFxNANetworkReply reply(handle);
+        delete reply.impl;
+        reply.impl = nullptr;
+        QVERIFY(!reply.getHandle());
+    }
+    FlushDeferredDeletes();
 }
 
 int main(int argc, char **argv)

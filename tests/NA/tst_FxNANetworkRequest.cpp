@@ -48,6 +48,12 @@ public:
     using CFxNANetworkRequest::CFxNANetworkRequest;
 
     template <class Field> auto Read(Field field) const { return m_impl->*field; }
+
+    void DropImplementation()
+    {
+        delete m_impl;
+        m_impl = nullptr;
+    }
 };
 
 } // namespace
@@ -81,6 +87,7 @@ private Q_SLOTS:
     void setHandleStoresThePointerAlone();
     void withoutHandleTheRecordGoesOn();
     void destructionDeletesTheHandleOfThatMoment();
+    void destructionWithoutImplementationDoesNothing();
     void copyHasTheUrlAndNothingElse();
     void copyIsIndependentOfItsSource();
     void knownHeaderNames_data();
@@ -451,6 +458,19 @@ void tst_FxNANetworkRequest::knownHeaderNamesBeyondTheTableAreNull()
 {
     QFETCH(int, number);
     QVERIFY(CFxNANetworkRequestImpl::GetKnowHeaderName(static_cast<KnownHeaders>(number)).isNull());
+}
+
+void tst_FxNANetworkRequest::destructionWithoutImplementationDoesNothing()
+{
+    const QNetworkRequest expected(Url());
+    auto handle = std::make_unique<QNetworkRequest>(Url());
+    {
+        ProbeRequest request(Url());
+        request.DropImplementation();
+        QVERIFY(!request.getHandle());
+        request.setHandle(handle.get());
+    }
+    QCOMPARE(*handle, expected);
 }
 
 int main(int argc, char **argv)

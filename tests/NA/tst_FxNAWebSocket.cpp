@@ -63,6 +63,7 @@ private Q_SLOTS:
     void closeByTheServer();
     void opensAgainAfterAClose();
     void destructionDeletesTheQtSocketAtOnce();
+    void theImplementationsEndClearsAForeignHandle();
     void destructionOfAConnectedSocketReachesTheSlots();
     void withoutHandleNothingHappens();
     void overAForeignHandleNothingHappens();
@@ -439,6 +440,17 @@ void tst_FxNAWebSocket::requestWithoutHandleOpensNothing()
     CFxNAWebSocket socket;
     socket.open(request);
     QCOMPARE(QtSocket(socket)->state(), QAbstractSocket::UnconnectedState);
+}
+
+void tst_FxNAWebSocket::theImplementationsEndClearsAForeignHandle()
+{
+    CFxNAWebSocket socket;
+    delete socket.getHandle();
+    QObject foreign;
+    socket.setHandle(&foreign);
+    delete socket.impl;
+    socket.impl = nullptr;
+    QVERIFY(!socket.getHandle());
 }
 
 int main(int argc, char **argv)

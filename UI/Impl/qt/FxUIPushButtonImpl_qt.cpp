@@ -17,6 +17,7 @@ void CFxUIPushButtonImpl::CreateFrontendControl()
     auto *button = new CFxUIPushButtonFrontend;
     button->setStyleSheet(QStringLiteral("QPushButton { }"));
     button->impl = this;
+    m_frontend = button;
     owner->setHandle(button);
     m_iconSize = button->iconSize();
 }
@@ -85,6 +86,6 @@ void CFxUIPushButtonImpl::SetMenuArrowVisibleImpl(bool visible)
 
 void CFxUIPushButtonImpl::DetachFrontendImpl()
 {
-    if (auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner))
+    if (auto *button = qobject_cast<CFxUIPushButtonFrontend *>(m_frontend.data()))
         button->impl = nullptr;
 }

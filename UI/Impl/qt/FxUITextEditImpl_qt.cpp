@@ -15,6 +15,7 @@ void CFxUITextEditImpl::CreateFrontendControl()
     frontend->setStyleSheet(QStringLiteral("QLineEdit { }"));
     owner->setHandle(frontend);
     frontend->impl = this;
+    m_frontend = frontend;
     ConnectFrontend(frontend, &QLineEdit::textChanged, this, &CFxUITextEditImpl::OnEditTextChanged);
     // The modifiers stay behind: slots get 0, unlike those of the text view. Intended.
     ConnectFrontend(frontend, &CFxUITextEditFrontend::keyPressed, this,
@@ -68,6 +69,6 @@ void CFxUITextEditImpl::SetReadOnlyImpl(bool readOnly)
 
 void CFxUITextEditImpl::DetachFrontendImpl()
 {
-    if (auto *frontend = FrontendCast<CFxUITextEditFrontend>(owner))
+    if (auto *frontend = qobject_cast<CFxUITextEditFrontend *>(m_frontend.data()))
         frontend->impl = nullptr;
 }

@@ -16,6 +16,7 @@ void CFxUITextViewImpl::CreateFrontendControl()
     auto *frontend = new CFxUITextViewFrontend;
     frontend->setStyleSheet(QStringLiteral("QTextEdit { }"));
     frontend->impl = this;
+    m_frontend = frontend;
     owner->setHandle(frontend);
     ConnectFrontend(frontend, &CFxUITextViewFrontend::keyPressed, this,
                     &CFxUITextViewImpl::OnKeyPressed);
@@ -77,6 +78,6 @@ QString CFxUITextViewImpl::EncodedTextImpl(const QString &text)
 
 void CFxUITextViewImpl::DetachFrontendImpl()
 {
-    if (auto *frontend = FrontendCast<CFxUITextViewFrontend>(owner))
+    if (auto *frontend = qobject_cast<CFxUITextViewFrontend *>(m_frontend.data()))
         frontend->impl = nullptr;
 }

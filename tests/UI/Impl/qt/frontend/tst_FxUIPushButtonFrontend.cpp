@@ -49,6 +49,7 @@ private Q_SLOTS:
     void setTextOfTheQtClassLeavesTheFullText();
     void worksWithoutAnImplementationObject();
     void wayBackIsGoneWithTheImplementationObject();
+    void takenFromItsControlItStandsAlone();
 };
 
 void tst_FxUIPushButtonFrontend::isAQObjectClassOfItsOwn()
@@ -151,6 +152,17 @@ void tst_FxUIPushButtonFrontend::wayBackIsGoneWithTheImplementationObject()
     QVERIFY(!button->impl);
     FlushDeferredDeletes();
     QVERIFY(!button);
+}
+
+void tst_FxUIPushButtonFrontend::takenFromItsControlItStandsAlone()
+{
+    auto control = std::make_unique<CFxUIPushButton>();
+    const std::unique_ptr<CFxUIPushButtonFrontend> frontend(
+        qobject_cast<CFxUIPushButtonFrontend *>(control->getHandle()));
+    control->setHandle(nullptr);
+    control.reset();
+    QVERIFY(!frontend->impl);
+    QTest::keyClick(frontend.get(), Qt::Key_Space);
 }
 
 int main(int argc, char **argv)

@@ -7,6 +7,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <memory>
 #include <type_traits>
 
 static_assert(std::is_base_of_v<QLineEdit, CFxUITextEditFrontend>);
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void knowsItsImplementation();
     void reportsEachKeyWithItsModifiers();
     void keySlotMayDeleteTheControl();
+    void takenFromItsControlItStandsAlone();
 };
 
 void tst_FxUITextEditFrontend::standsAloneWithoutParentAndImplementation()
@@ -66,6 +68,17 @@ void tst_FxUITextEditFrontend::keySlotMayDeleteTheControl()
     QTest::keyClick(frontend, Qt::Key_A);
     QVERIFY(!frontend->impl);
     QCOMPARE(frontend->text(), QStringLiteral("a"));
+}
+
+void tst_FxUITextEditFrontend::takenFromItsControlItStandsAlone()
+{
+    auto control = std::make_unique<CFxUITextEdit>();
+    const std::unique_ptr<CFxUITextEditFrontend> frontend(
+        qobject_cast<CFxUITextEditFrontend *>(control->getHandle()));
+    control->setHandle(nullptr);
+    control.reset();
+    QVERIFY(!frontend->impl);
+    QTest::keyClick(frontend.get(), Qt::Key_A);
 }
 
 int main(int argc, char **argv)

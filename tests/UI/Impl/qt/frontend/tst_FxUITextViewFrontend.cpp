@@ -7,6 +7,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <memory>
 #include <type_traits>
 
 static_assert(std::is_base_of_v<QTextEdit, CFxUITextViewFrontend>);
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void setTextReplacesASelectionElsewhere();
     void reportsEachKeyWithItsModifiers();
     void keySlotMayDeleteTheControl();
+    void takenFromItsControlItStandsAlone();
 };
 
 void tst_FxUITextViewFrontend::standsAloneWithoutParentAndImplementation()
@@ -106,6 +108,17 @@ void tst_FxUITextViewFrontend::keySlotMayDeleteTheControl()
     QTest::keyClick(frontend, Qt::Key_A);
     QVERIFY(!frontend->impl);
     QCOMPARE(frontend->toPlainText(), QStringLiteral("a"));
+}
+
+void tst_FxUITextViewFrontend::takenFromItsControlItStandsAlone()
+{
+    auto control = std::make_unique<CFxUITextView>();
+    const std::unique_ptr<CFxUITextViewFrontend> frontend(
+        qobject_cast<CFxUITextViewFrontend *>(control->getHandle()));
+    control->setHandle(nullptr);
+    control.reset();
+    QVERIFY(!frontend->impl);
+    QTest::keyClick(frontend.get(), Qt::Key_A);
 }
 
 int main(int argc, char **argv)
