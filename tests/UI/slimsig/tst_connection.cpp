@@ -129,15 +129,30 @@ TEST(Connection, InsideAnEmissionTheCallableIsDestroyedWhenTheOutermostOneEnds)
     EXPECT_EQ(captured.use_count(), 1);
 }
 
-TEST(Connection, DisconnectingTheLastSlotEmptiesTheArray)
+TEST(Connection, AfterTheLastSlotIsDisconnectedAnEmissionEmptiesTheArray)
 {
     VoidProbe signal;
     auto connections = connectMany(signal, 5);
     for (Connection &connection : connections)
         connection.disconnect();
+    EXPECT_TRUE(signal.empty());
+    EXPECT_TRUE(signal.isWhole());
+    signal.emit();
     EXPECT_TRUE(signal.pending.empty());
     EXPECT_TRUE(signal.isTidy());
-    EXPECT_TRUE(signal.empty());
+}
+
+TEST(Connection, ASlotConnectedInPlaceOfAnotherTakesItsRecord)
+{
+    VoidProbe signal;
+    Connection connection;
+    for (int i = 0; i < 100; ++i) {
+        connection.disconnect();
+        connection = signal.connect([] {});
+    }
+    EXPECT_EQ(signal.pending.capacity(), 1u);
+    EXPECT_TRUE(connection.connected());
+    EXPECT_TRUE(signal.isTidy());
 }
 
 TEST(Connection, ConnectingAndDisconnectingWithoutEmittingKeepsTheArraySmall)

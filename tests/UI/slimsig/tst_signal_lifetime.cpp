@@ -129,7 +129,7 @@ TEST(SignalLifetime, ACallableMayConnectAtItsEndInADisconnect)
     Connection ending = signal.connect(slotEndingWith([&] { signal.connect([] {}); }));
     ending.disconnect();
     EXPECT_EQ(signal.num_slots(), 1u);
-    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.isWhole());
 }
 
 TEST(SignalLifetime, ACallableMayDisconnectAtItsEndInADisconnect)
@@ -144,7 +144,7 @@ TEST(SignalLifetime, ACallableMayDisconnectAtItsEndInADisconnect)
     }
     chain[0].disconnect();
     EXPECT_TRUE(signal.empty());
-    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.isWhole());
 }
 
 TEST(SignalLifetime, ACallableMayConnectAtItsEndWhenAllAreDisconnected)
@@ -283,6 +283,33 @@ TEST(SignalLifetime, OutgrownCallablesMayComeBackToTheSignalAtTheirEnd)
     EXPECT_LT(budget, 50);
     EXPECT_EQ(signal.num_slots(), 12u + static_cast<unsigned>(50 - budget));
     EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, AnOutgrownCallableMayDisconnectAllAtItsEnd)
+{
+    struct Disconnecting {
+        VoidProbe *signal;
+        bool *armed;
+
+        ~Disconnecting()
+        {
+            if (std::exchange(*armed, false))
+                signal->disconnect_all_slots();
+        }
+
+        void operator()() const { }
+    };
+
+    VoidProbe signal;
+    bool armed = false;
+    signal.connect(Disconnecting { &signal, &armed });
+    armed = true;
+    const Connection connection = signal.connect([] {});
+    EXPECT_FALSE(armed);
+    EXPECT_FALSE(connection.connected()) << "it was connected when all were disconnected";
+    EXPECT_TRUE(signal.isTidy());
+    signal.connect([] {});
+    EXPECT_EQ(signal.num_slots(), 1u);
 }
 
 TEST(SignalLifetime, CallablesMayComeBackToTheSignalWhenTheyAreCopied)

@@ -30,27 +30,36 @@ public:
     /// outermost emission ends; either way it is not called again.
     void disconnect()
     {
-        if (const std::shared_ptr<signal_holder> alive = m_holder.lock(); alive && alive->signal)
-            alive->signal->disconnect_slot(m_id);
+        if (signal_type *const found = signal())
+            found->disconnect_slot(m_id);
     }
 
     /// Returns whether the signal lives and would call the slot. False for a slot connected empty.
     bool connected() const
     {
-        const std::shared_ptr<signal_holder> alive = m_holder.lock();
-        return alive && alive->signal && alive->signal->is_connected(m_id);
+        signal_type *const found = signal();
+        return found && found->is_connected(m_id);
     }
 
 private:
     friend signal_type;
 
     connection(const std::shared_ptr<signal_holder> &holder, slot_id id) noexcept
-        : m_holder(holder)
+        : m_watched(holder)
+        , m_holder(holder.get())
         , m_id(id)
     {
     }
 
-    std::weak_ptr<signal_holder> m_holder;
+    /// Returns the signal, or null if it is gone. Only the signal owns the holder, so that looking
+    /// at it on the signal's own thread takes no reference.
+    signal_type *signal() const noexcept
+    {
+        return m_watched.expired() ? nullptr : m_holder->signal;
+    }
+
+    std::weak_ptr<signal_holder> m_watched;
+    signal_holder *m_holder = nullptr;
     slot_id m_id = 0;
 };
 

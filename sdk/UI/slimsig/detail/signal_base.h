@@ -67,11 +67,11 @@ public:
     /// end the process.
     connection connect(function_type function)
     {
-        const slot_array outgrown = make_room();
-        const slot_id id = prepare_connection();
-        pending.emplace_back(id, std::move(function));
-        ++m_size;
-        return connection(holder, id);
+        if (pending.capacity() == 0)
+            pending.reserve(1);
+        else if (pending.size() == pending.capacity())
+            return connect_growing(std::move(function));
+        return append(std::move(function));
     }
 
     /// Calls the slots in order of connection. Arguments passed by value are copied for each slot
@@ -331,20 +331,31 @@ private:
         }
     }
 
-    /// Makes sure that one more record fits, and returns the array that was outgrown, if any. The
-    /// caller drops it when the signal is whole again, since the end of its callables may lead back
-    /// here.
-    slot_array make_room()
+    connection append(function_type &&function)
     {
-        if (pending.size() == pending.capacity() && mostly_dead())
+        const slot_id id = prepare_connection();
+        pending.emplace_back(id, std::move(function));
+        ++m_size;
+        return connection(holder, id);
+    }
+
+    /// Makes room and appends. The array that was outgrown goes when the signal is whole again,
+    /// since the end of its callables may lead back here.
+    [[gnu::noinline]] connection connect_growing(function_type &&function)
+    {
+        if (mostly_dead())
             clean_up();
         slot_array dropped;
         while (pending.size() == pending.capacity()) {
-            dropped = grow();
-            if (depth == 0 && holder)
-                release_outgrown();
+            if (pending.empty()) {
+                pending.reserve(1);
+            } else {
+                dropped = grow();
+                if (depth == 0)
+                    release_outgrown();
+            }
         }
-        return dropped;
+        return append(std::move(function));
     }
 
     /// Returns whether tidying up, outside an emission, makes enough room to be worth it. Slots
@@ -362,7 +373,7 @@ private:
     slot_array grow()
     {
         slot_array larger = copy_records();
-        if (depth > 0 && !pending.empty()) {
+        if (depth > 0) {
             outgrown().emplace_front();
             outgrown().front().swap(pending);
         }
@@ -376,15 +387,12 @@ private:
     slot_array copy_records()
     {
         slot_array copies;
-        copies.reserve(std::max<std::size_t>(1, 2 * pending.size()));
-        if (pending.empty())
-            return copies;
+        copies.reserve(2 * pending.size());
         const copy_scope scope(*this);
-        do {
-            for (std::size_t i = copies.size(); i < pending.size(); ++i)
-                copies.push_back(pending[i]);
-            copies.reserve(pending.size() + 1);
-        } while (copies.size() < pending.size());
+        const slot_type *const first = pending.data();
+        copies.insert(copies.end(), first, first + pending.size());
+        while (copies.size() < pending.size())
+            copies.push_back(pending[copies.size()]);
         for (std::size_t i = 0; i < copies.size(); ++i)
             copies[i].active = pending[i].active;
         return copies;
@@ -428,7 +436,7 @@ private:
 
     /// Clears the record's flag and leaves the record to the next clean-up, so that disconnecting
     /// many slots one by one does not move the others each time. Outside an emission the callable
-    /// goes at once, and with the last connected slot all records.
+    /// goes at once, as the last thing done: what it captured may take the signal along.
     void disconnect_slot(slot_id id)
     {
         slot_type *const slot = detail::find_slot(pending, id);
@@ -436,13 +444,8 @@ private:
             return;
         slot->active = false;
         --m_size;
-        if (depth > 0)
-            return;
-        function_type dropped;
-        dropped.swap(slot->function);
-        if (m_size == 0)
-            clean_up();
-        // The callable goes last: what it captured may connect again, or take the signal along.
+        if (depth == 0)
+            detail::drop_callable(*slot);
     }
 
     /// Lets go of connections and slots. Callables that connect at their end are why this is

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace slimsig::detail {
@@ -13,7 +14,9 @@ template <class Slot, class SlotId> Slot *find_slot(std::vector<Slot> &records, 
     if (records.empty() || id < records.front().id)
         return nullptr;
     Slot *const first = records.data();
-    Slot *const furthest = first + std::min<std::size_t>(id - first->id, records.size() - 1);
+    Slot *const last = &records.back();
+    const std::size_t most = id - first->id;
+    Slot *const furthest = most < records.size() ? first + most : last;
     if (furthest->id == id)
         return furthest;
     Slot *const found = std::lower_bound(
@@ -25,8 +28,7 @@ template <class Slot, class SlotId> Slot *find_slot(std::vector<Slot> &records, 
 /// the last thing done with the record.
 template <class Slot> void drop_callable(Slot &slot) noexcept
 {
-    decltype(slot.function) dropped;
-    dropped.swap(slot.function);
+    const auto dropped = std::move(slot.function);
 }
 
 /// Removes the inactive records and keeps the order of the others, by swapping, which neither
