@@ -29,6 +29,9 @@ LIMITS = {
     "connect first": 2, "connect 64": 2, "disconnect 64": 4, "destroy 64": 1,
 }
 IDLE_NANOSECONDS = 1.5
+ROWS = ["emit to 0", "emit to 1", "emit to 8", "emit to 64", "emit to 1024", "emit nested",
+        "emit QString to 8", "emit std::string to 8", "emit 1000 signals", "emit 4000 signals",
+        "connect first", "connect 64", "disconnect 64", "destroy 64", "construct and destroy"]
 INSTRUCTIONS = {0: 12, 8: 150}
 
 
@@ -57,7 +60,8 @@ def measure(program, repetitions, row_filter):
 def print_ratios(rows):
     print("| | floor, ns |", " | ".join(PEERS), "| slimsig at most | |")
     print("|---|" + "---:|" * (len(PEERS) + 2) + "---|")
-    for row, medians in rows.items():
+    for row in sorted(rows, key=ROWS.index):
+        medians = rows[row]
         floor = medians[FLOOR]
         ratios = {peer: medians[peer] / floor for peer in PEERS if peer in medians}
         if row == "emit to 0":

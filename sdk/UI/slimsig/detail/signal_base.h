@@ -6,7 +6,6 @@
 #include "slot_array.h"
 #include "verify.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <forward_list>
@@ -227,77 +226,32 @@ private:
         slot_type *const slot;
     };
 
-    /// Leaves before anything else where there is nothing to call, as with most signals.
-    [[gnu::always_inline]] void emit_unless_idle(Args &...args)
-    {
-        if (!pending.empty())
-            call_slots(args...);
-        else if ((m_size | m_offset) != 0)
-            check_empty();
-    }
+    void emit_unless_idle(Args &...args);
+    void check_empty();
+    void call_slots(handed<Args>... args);
+    template <class... Passed>
+    void call_slot(slot_type *first, slot_type *slot, Passed &&...passed);
+    void call_behind_offset(handed<Args>... args);
+    void call_moved(const slot_type *first, const slot_type *slot, const slot_type *last,
+                    handed<Args>... args);
+    void call_by_index(size_type next, size_type end, handed<Args>... args);
+    void leave_moved(const slot_type *first, const slot_type *slot) noexcept;
 
-    /// An emission without records, which can only fail.
-    [[gnu::noinline, gnu::cold]] void check_empty()
-    {
-        const emit_scope scope(*this);
-        detail::verify(m_offset <= pending.size(), "m_offset <= end");
-    }
+    connection append(function_type &&function);
+    connection connect_growing(function_type &&function);
+    bool mostly_dead() const noexcept;
+    slot_array grow();
+    slot_array copy_records();
+    void release_outgrown() noexcept;
+    void clean_up() noexcept;
+    bool drop_dead_callables(const signal_holder &watched) noexcept;
+    bool is_connected(slot_id id) noexcept;
+    void disconnect_slot(slot_id id);
+    void abandon() noexcept;
 
     bool stands_at(const slot_type *first) const noexcept
     {
         return __builtin_expect(pending.data() == first, true);
-    }
-
-    /// Walks by pointer, which is what most emissions are, and goes on by index once a slot has
-    /// made the array move. The last slot is taken apart, as it may have the arguments for good.
-    [[gnu::noinline]] void call_slots(handed<Args>... args)
-    {
-        const emit_scope scope(*this);
-        if (__builtin_expect(m_offset != 0, false))
-            return call_behind_offset(args...);
-        slot_type *const first = pending.data();
-        slot_type *const last = &pending.back();
-        slot_type *slot = first;
-        for (; slot != last; ++slot) {
-            if (!slot->active)
-                continue;
-            call_slot(first, slot, args...);
-            if (!stands_at(first))
-                return call_moved(first, slot, last, args...);
-        }
-        if (__builtin_expect(slot->active, true))
-            call_slot(first, slot, std::forward<Args>(args)...);
-    }
-
-    template <class... Passed>
-    [[gnu::always_inline]] void call_slot(slot_type *first, slot_type *slot, Passed &&...passed)
-    {
-        const running_scope running(*this, first, slot);
-        slot->function(std::forward<Passed>(passed)...);
-    }
-
-    [[gnu::noinline, gnu::cold]] void call_behind_offset(handed<Args>... args)
-    {
-        call_by_index(m_offset, pending.size(), args...);
-    }
-
-    [[gnu::noinline, gnu::cold]] void call_moved(const slot_type *first, const slot_type *slot,
-                                                 const slot_type *last, handed<Args>... args)
-    {
-        call_by_index(index_of(first, slot) + 1, index_of(first, last) + 1, args...);
-    }
-
-    void call_by_index(size_type next, size_type end, handed<Args>... args)
-    {
-        detail::verify(next <= end, "m_offset <= end");
-        if (next == end)
-            return;
-        for (const size_type last = index_of_last(end); next != last; ++next) {
-            if (pending[next].active)
-                call_slot(pending.data(), &pending[next], args...);
-        }
-        if (pending[next].active)
-            call_slot(pending.data(), &pending[next], std::forward<Args>(args)...);
     }
 
     static size_type index_of(const slot_type *first, const slot_type *slot) noexcept
@@ -305,159 +259,15 @@ private:
         return static_cast<size_type>(slot - first);
     }
 
-    /// Ends a call that has moved the array. In the outermost emission no callable runs any more,
-    /// so that the outgrown arrays can go.
-    [[gnu::noinline, gnu::cold]] void leave_moved(const slot_type *first,
-                                                  const slot_type *slot) noexcept
-    {
-        if (depth == 1)
-            release_outgrown();
-        pending[index_of(first, slot)].running = false;
-    }
-
     std::forward_list<slot_array> &outgrown() noexcept
     {
         return static_cast<storage_holder &>(*holder).outgrown;
-    }
-
-    /// Destroys the outgrown arrays one by one: what a callable captured may connect when it is
-    /// destroyed.
-    void release_outgrown() noexcept
-    {
-        while (!outgrown().empty()) {
-            slot_array dropped;
-            dropped.swap(outgrown().front());
-            outgrown().pop_front();
-        }
-    }
-
-    connection append(function_type &&function)
-    {
-        const slot_id id = prepare_connection();
-        pending.emplace_back(id, std::move(function));
-        ++m_size;
-        return connection(holder, id);
-    }
-
-    /// Makes room and appends. The array that was outgrown goes when the signal is whole again,
-    /// since the end of its callables may lead back here.
-    [[gnu::noinline]] connection connect_growing(function_type &&function)
-    {
-        if (mostly_dead())
-            clean_up();
-        slot_array dropped;
-        while (pending.size() == pending.capacity()) {
-            if (pending.empty()) {
-                pending.reserve(1);
-            } else {
-                dropped = grow();
-                if (depth == 0)
-                    release_outgrown();
-            }
-        }
-        return append(std::move(function));
-    }
-
-    /// Returns whether tidying up, outside an emission, makes enough room to be worth it. Slots
-    /// that were connected empty look dead without having been disconnected; they are left to the
-    /// emission.
-    bool mostly_dead() const noexcept
-    {
-        const std::size_t dead = pending.size() - m_size;
-        if (depth > 0 || dead <= pending.size() / 2)
-            return false;
-        const auto inactive = std::count_if(pending.begin(), pending.end(), is_disconnected);
-        return dead == static_cast<std::size_t>(inactive);
-    }
-
-    slot_array grow()
-    {
-        slot_array larger = copy_records();
-        if (depth > 0) {
-            outgrown().emplace_front();
-            outgrown().front().swap(pending);
-        }
-        larger.swap(pending);
-        return larger;
-    }
-
-    /// Copies the records into an array twice as long. Copying a callable runs code of its own,
-    /// which may lead back to this signal; it counts as an emission meanwhile, so that every record
-    /// stays in place.
-    slot_array copy_records()
-    {
-        slot_array copies;
-        copies.reserve(2 * pending.size());
-        const copy_scope scope(*this);
-        const slot_type *const first = pending.data();
-        copies.insert(copies.end(), first, first + pending.size());
-        while (copies.size() < pending.size())
-            copies.push_back(pending[copies.size()]);
-        for (std::size_t i = 0; i < copies.size(); ++i)
-            copies[i].active = pending[i].active;
-        return copies;
-    }
-
-    /// Removes the dead records and keeps the order of the others. What a dead callable captured
-    /// may connect, disconnect and emit when it is destroyed, or take the signal along: so each one
-    /// is taken out of its record first, and the records leave when nobody's code can run any more.
-    [[gnu::noinline, gnu::cold]] void clean_up() noexcept
-    {
-        const auto dead_end = pending.begin() + static_cast<std::ptrdiff_t>(m_offset);
-        std::for_each(pending.begin(), dead_end, [](slot_type &slot) { slot.active = false; });
-        m_offset = 0;
-        if (const std::shared_ptr<const signal_holder> watched = holder) {
-            while (drop_dead_callables(*watched)) { }
-            if (!watched->signal)
-                return;
-        }
-        detail::remove_inactive(pending);
-        detail::verify(m_size == pending.size(), "m_size == pending.size()");
-    }
-
-    /// Returns whether there were any and the signal has survived it, which calls for another look.
-    bool drop_dead_callables(const signal_holder &watched) noexcept
-    {
-        bool dropped = false;
-        for (std::size_t i = 0; watched.signal && i < pending.size(); ++i) {
-            if (is_disconnected(pending[i]) && pending[i].function) {
-                detail::drop_callable(pending[i]);
-                dropped = true;
-            }
-        }
-        return dropped && watched.signal;
-    }
-
-    bool is_connected(slot_id id) noexcept
-    {
-        const slot_type *const slot = detail::find_slot(pending, id);
-        return slot && slot->active;
-    }
-
-    /// Clears the record's flag and leaves the record to the next clean-up, so that disconnecting
-    /// many slots one by one does not move the others each time. Outside an emission the callable
-    /// goes at once, as the last thing done: what it captured may take the signal along.
-    void disconnect_slot(slot_id id)
-    {
-        slot_type *const slot = detail::find_slot(pending, id);
-        if (!slot || !slot->active)
-            return;
-        slot->active = false;
-        --m_size;
-        if (depth == 0)
-            detail::drop_callable(*slot);
-    }
-
-    /// Lets go of connections and slots. Callables that connect at their end are why this is
-    /// repeated.
-    void abandon() noexcept
-    {
-        holder->signal = nullptr;
-        holder.reset();
-        disconnect_all_slots();
     }
 };
 
 } // namespace slimsig
 
 #pragma pop_macro("emit")
+
+#include "signal_base_emission.h"
+#include "signal_base_storage.h"

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "signal_base.h"
+
+// How a signal calls its slots.
+
+namespace slimsig {
+
+/// Leaves before anything else where there is nothing to call, as with most signals.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::always_inline]] inline void
+signal_base<SignalTraits, Allocator, R(Args...)>::emit_unless_idle(Args &...args)
+{
+    if (!pending.empty())
+        call_slots(args...);
+    else if ((m_size | m_offset) != 0)
+        check_empty();
+}
+
+/// An emission without records, which can only fail.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void signal_base<SignalTraits, Allocator, R(Args...)>::check_empty()
+{
+    const emit_scope scope(*this);
+    detail::verify(m_offset <= pending.size(), "m_offset <= end");
+}
+
+/// Walks by pointer, which is what most emissions are, and goes on by index once a slot has
+/// made the array move. The last slot is taken apart, as it may have the arguments for good.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline]] void
+signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... args)
+{
+    const emit_scope scope(*this);
+    if (__builtin_expect(m_offset != 0, false))
+        return call_behind_offset(args...);
+    slot_type *const first = pending.data();
+    slot_type *const last = &pending.back();
+    slot_type *slot = first;
+    for (; slot != last; ++slot) {
+        if (!slot->active)
+            continue;
+        call_slot(first, slot, args...);
+        if (!stands_at(first))
+            return call_moved(first, slot, last, args...);
+    }
+    if (__builtin_expect(slot->active, true))
+        call_slot(first, slot, std::forward<Args>(args)...);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+template <class... Passed>
+[[gnu::always_inline]] inline void
+signal_base<SignalTraits, Allocator, R(Args...)>::call_slot(slot_type *first, slot_type *slot,
+                                                            Passed &&...passed)
+{
+    const running_scope running(*this, first, slot);
+    slot->function(std::forward<Passed>(passed)...);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void
+signal_base<SignalTraits, Allocator, R(Args...)>::call_behind_offset(handed<Args>... args)
+{
+    call_by_index(m_offset, pending.size(), args...);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void signal_base<SignalTraits, Allocator, R(Args...)>::call_moved(
+    const slot_type *first, const slot_type *slot, const slot_type *last, handed<Args>... args)
+{
+    call_by_index(index_of(first, slot) + 1, index_of(first, last) + 1, args...);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+void signal_base<SignalTraits, Allocator, R(Args...)>::call_by_index(size_type next, size_type end,
+                                                                     handed<Args>... args)
+{
+    detail::verify(next <= end, "m_offset <= end");
+    if (next == end)
+        return;
+    for (const size_type last = index_of_last(end); next != last; ++next) {
+        if (pending[next].active)
+            call_slot(pending.data(), &pending[next], args...);
+    }
+    if (pending[next].active)
+        call_slot(pending.data(), &pending[next], std::forward<Args>(args)...);
+}
+
+/// Ends a call that has moved the array. In the outermost emission no callable runs any more,
+/// so that the outgrown arrays can go.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void
+signal_base<SignalTraits, Allocator, R(Args...)>::leave_moved(const slot_type *first,
+                                                              const slot_type *slot) noexcept
+{
+    if (depth == 1)
+        release_outgrown();
+    pending[index_of(first, slot)].running = false;
+}
+
+} // namespace slimsig

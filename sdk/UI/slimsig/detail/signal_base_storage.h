@@ -1,0 +1,168 @@
+#pragma once
+
+#include "signal_base.h"
+
+#include <algorithm>
+
+// How a signal keeps its records.
+
+namespace slimsig {
+
+/// Destroys the outgrown arrays one by one: what a callable captured may connect when it is
+/// destroyed.
+template <class SignalTraits, class Allocator, class R, class... Args>
+void signal_base<SignalTraits, Allocator, R(Args...)>::release_outgrown() noexcept
+{
+    while (!outgrown().empty()) {
+        slot_array dropped;
+        dropped.swap(outgrown().front());
+        outgrown().pop_front();
+    }
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+auto signal_base<SignalTraits, Allocator, R(Args...)>::append(function_type &&function)
+    -> connection
+{
+    const slot_id id = prepare_connection();
+    pending.emplace_back(id, std::move(function));
+    ++m_size;
+    return connection(holder, id);
+}
+
+/// Makes room and appends. The array that was outgrown goes when the signal is whole again,
+/// since the end of its callables may lead back here.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline]] auto
+signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(function_type &&function)
+    -> connection
+{
+    if (mostly_dead())
+        clean_up();
+    slot_array dropped;
+    while (pending.size() == pending.capacity()) {
+        if (pending.empty()) {
+            pending.reserve(1);
+        } else {
+            dropped = grow();
+            if (depth == 0)
+                release_outgrown();
+        }
+    }
+    return append(std::move(function));
+}
+
+/// Returns whether tidying up, outside an emission, makes enough room to be worth it. Slots
+/// that were connected empty look dead without having been disconnected; they are left to the
+/// emission.
+template <class SignalTraits, class Allocator, class R, class... Args>
+bool signal_base<SignalTraits, Allocator, R(Args...)>::mostly_dead() const noexcept
+{
+    const std::size_t dead = pending.size() - m_size;
+    if (depth > 0 || dead <= pending.size() / 2)
+        return false;
+    const auto inactive = std::count_if(pending.begin(), pending.end(), is_disconnected);
+    return dead == static_cast<std::size_t>(inactive);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+auto signal_base<SignalTraits, Allocator, R(Args...)>::grow() -> slot_array
+{
+    slot_array larger = copy_records();
+    if (depth > 0) {
+        outgrown().emplace_front();
+        outgrown().front().swap(pending);
+    }
+    larger.swap(pending);
+    return larger;
+}
+
+/// Copies the records into an array twice as long. Copying a callable runs code of its own,
+/// which may lead back to this signal; it counts as an emission meanwhile, so that every record
+/// stays in place.
+template <class SignalTraits, class Allocator, class R, class... Args>
+auto signal_base<SignalTraits, Allocator, R(Args...)>::copy_records() -> slot_array
+{
+    slot_array copies;
+    copies.reserve(2 * pending.size());
+    const copy_scope scope(*this);
+    const slot_id next_id = last_id;
+    const size_type connected = m_size;
+    const slot_type *const first = pending.data();
+    copies.insert(copies.end(), first, first + pending.size());
+    if (last_id == next_id && m_size == connected)
+        return copies;
+    while (copies.size() < pending.size())
+        copies.push_back(pending[copies.size()]);
+    for (std::size_t i = 0; i < copies.size(); ++i)
+        copies[i].active = pending[i].active;
+    return copies;
+}
+
+/// Removes the dead records and keeps the order of the others. What a dead callable captured
+/// may connect, disconnect and emit when it is destroyed, or take the signal along: so each one
+/// is taken out of its record first, and the records leave when nobody's code can run any more.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void
+signal_base<SignalTraits, Allocator, R(Args...)>::clean_up() noexcept
+{
+    const auto dead_end = pending.begin() + static_cast<std::ptrdiff_t>(m_offset);
+    std::for_each(pending.begin(), dead_end, [](slot_type &slot) { slot.active = false; });
+    m_offset = 0;
+    if (const std::shared_ptr<const signal_holder> watched = holder) {
+        while (drop_dead_callables(*watched)) { }
+        if (!watched->signal)
+            return;
+    }
+    detail::remove_inactive(pending);
+    detail::verify(m_size == pending.size(), "m_size == pending.size()");
+}
+
+/// Returns whether there were any and the signal has survived it, which calls for another look.
+template <class SignalTraits, class Allocator, class R, class... Args>
+bool signal_base<SignalTraits, Allocator, R(Args...)>::drop_dead_callables(
+    const signal_holder &watched) noexcept
+{
+    bool dropped = false;
+    for (std::size_t i = 0; watched.signal && i < pending.size(); ++i) {
+        if (is_disconnected(pending[i]) && pending[i].function) {
+            detail::drop_callable(pending[i]);
+            dropped = true;
+        }
+    }
+    return dropped && watched.signal;
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+bool signal_base<SignalTraits, Allocator, R(Args...)>::is_connected(slot_id id) noexcept
+{
+    const slot_type *const slot = detail::find_slot(pending, id);
+    return slot && slot->active;
+}
+
+/// Clears the record's flag and leaves the record to the next clean-up, so that disconnecting
+/// many slots one by one does not move the others each time. Outside an emission the callable
+/// goes at once, as the last thing done: what it captured may take the signal along.
+template <class SignalTraits, class Allocator, class R, class... Args>
+void signal_base<SignalTraits, Allocator, R(Args...)>::disconnect_slot(slot_id id)
+{
+    slot_type *const slot = detail::find_slot(pending, id);
+    if (!slot || !slot->active)
+        return;
+    slot->active = false;
+    --m_size;
+    if (depth == 0)
+        detail::drop_callable(*slot);
+}
+
+/// Lets go of connections and slots. Callables that connect at their end are why this is
+/// repeated.
+template <class SignalTraits, class Allocator, class R, class... Args>
+void signal_base<SignalTraits, Allocator, R(Args...)>::abandon() noexcept
+{
+    holder->signal = nullptr;
+    holder.reset();
+    disconnect_all_slots();
+}
+
+} // namespace slimsig
