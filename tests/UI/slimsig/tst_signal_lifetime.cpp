@@ -217,7 +217,7 @@ TEST(SignalLifetime, DisconnectedCallablesEndFirstToLastInTheCleanUp)
 
 TEST(SignalLifetime, ADisconnectedCallableMayOwnTheSignal)
 {
-    auto owner = std::make_shared<VoidProbe>();
+    std::shared_ptr<VoidProbe> owner(new VoidProbe); // freed at once, whoever watches it
     const std::weak_ptr<VoidProbe> watched = owner;
     Connection connection = owner->connect([owner] {});
     owner.reset();
@@ -228,7 +228,7 @@ TEST(SignalLifetime, ADisconnectedCallableMayOwnTheSignal)
 
 TEST(SignalLifetime, ACleanUpMayTakeTheSignalAlong)
 {
-    auto owner = std::make_shared<VoidProbe>();
+    std::shared_ptr<VoidProbe> owner(new VoidProbe); // freed at once, whoever watches it
     const std::weak_ptr<VoidProbe> watched = owner;
     std::vector<Connection> connections;
     VoidProbe &signal = *owner;
