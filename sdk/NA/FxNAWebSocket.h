@@ -19,7 +19,7 @@ class CFxNANetworkRequest;
 class COMMONUI_EXPORT CFxNAWebSocket : public CFxUIObject {
 public:
     /// \a origin is sent as the handshake's Origin header unless it is empty. The version goes to
-    /// Qt unchecked; Qt can connect with VersionLatest alone.
+    /// Qt unchecked and without effect: Qt shakes hands as version 13 always.
     explicit CFxNAWebSocket(
         const QString &origin = QString(),
         CFxNAWebSocketProtocol::Version version = CFxNAWebSocketProtocol::VersionLatest);

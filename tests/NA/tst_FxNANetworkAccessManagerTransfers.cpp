@@ -62,6 +62,7 @@ private Q_SLOTS:
     void getOfACompressedBodyIsUnpacked();
     void getOfAMissingFileIsAnErrorWithABody();
     void redirectsAreNotFollowed();
+    void cookiesAreKeptByTheQtManager();
     void authenticationIsNotAnswered();
     void authenticationThroughTheQtManager();
     void postOfBytesThatGoAfterTheCall();
@@ -188,6 +189,18 @@ void tst_FxNANetworkAccessManagerTransfers::redirectsAreNotFollowed()
     QVERIFY(transfer.reply->header(CFxNANetworkRequest::LocationHeader)
                 .toByteArray()
                 .endsWith("/small.txt"));
+}
+
+void tst_FxNANetworkAccessManagerTransfers::cookiesAreKeptByTheQtManager()
+{
+    CFxNANetworkAccessManager manager;
+    const QByteArray answer =
+        "HTTP/1.1 200 OK\r\nSet-Cookie: a=b; Path=/\r\nContent-Length: 0\r\n\r\n";
+    Transfer first(manager.get(CFxNANetworkRequest(fault.Url(Steps().Send(answer).Path()))));
+    QVERIFY(first.Wait());
+    Transfer second(manager.get(CFxNANetworkRequest(fault.Url(Steps().Echo().Path()))));
+    QVERIFY(second.Wait());
+    QVERIFY(second.body.contains("\r\nCookie: a=b\r\n"));
 }
 
 void tst_FxNANetworkAccessManagerTransfers::authenticationIsNotAnswered()

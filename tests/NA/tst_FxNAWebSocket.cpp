@@ -46,6 +46,8 @@ private Q_SLOTS:
     void frontendClassNameIsEmpty();
     void opensSendsReceivesAndCloses();
     void handshakeCarriesOriginAndHeaders();
+    void everyVersionShakesHandsAsTheLatest_data();
+    void everyVersionShakesHandsAsTheLatest();
     void theRequestMayGoAfterOpen();
     void timeoutOfTheRequestHasNoEffect();
     void handlersEmitWhatTheyAreGiven();
@@ -135,6 +137,26 @@ void tst_FxNAWebSocket::handshakeCarriesOriginAndHeaders()
     QVERIFY(recorder.messages.contains(QStringLiteral("Origin: http://origin/")));
     QVERIFY(recorder.messages.contains(QStringLiteral("X-Raw: raw value")));
     QVERIFY(recorder.messages.contains(QStringLiteral("User-Agent: agent")));
+    QVERIFY(recorder.messages.contains(QStringLiteral("Sec-WebSocket-Version: 13")));
+    socket.close();
+    QVERIFY(recorder.WaitFor(Disconnected));
+    peer.ReadLine();
+}
+
+void tst_FxNAWebSocket::everyVersionShakesHandsAsTheLatest_data()
+{
+    QTest::addColumn<int>("version");
+    for (const int version : { -1, 0, 4, 5, 6, 7, 8, 13, 99 })
+        QTest::addRow("%d", version) << version;
+}
+
+void tst_FxNAWebSocket::everyVersionShakesHandsAsTheLatest()
+{
+    QFETCH(int, version);
+    CFxNAWebSocket socket(QString(), static_cast<Protocol::Version>(version));
+    SocketRecorder recorder(socket);
+    socket.open(Request(QStringLiteral("/headers")));
+    QVERIFY(recorder.WaitForMessage(QStringLiteral("done")));
     QVERIFY(recorder.messages.contains(QStringLiteral("Sec-WebSocket-Version: 13")));
     socket.close();
     QVERIFY(recorder.WaitFor(Disconnected));

@@ -250,6 +250,9 @@ void tst_WebSocketFaults::frame_data()
     row("a length with the top bit", "\x81" + LongLength(127, 1ULL << 63U) + "x", Closes(1002));
     row("the biggest length", "\x81" + LongLength(127, ~0ULL) + "x", Closes(1002));
     row("a length of 63 bits", "\x81" + LongLength(127, ~0ULL >> 1U) + "x", Closes(1009));
+    AddRow("a length of 1 GB, hangs",
+           Steps().Upgrade().Send("\x81" + LongLength(127, 1ULL << 30U) + "x").Hang(),
+           Silent("connected", QAbstractSocket::ConnectedState));
     row("a length of 2 GB", "\x81" + LongLength(127, 1ULL << 31U) + "x", Closes(1009));
     row("a length of 4 GB", "\x81" + LongLength(127, 1ULL << 32U) + "x", Closes(1009));
     AddRow("a frame cut short, closes",
