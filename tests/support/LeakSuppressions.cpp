@@ -7,6 +7,8 @@ extern "C" __attribute__((visibility("default"))) const char *__lsan_default_sup
         // Qt's offscreen platform never frees its one screen (368 bytes, once).
         "leak:libqoffscreen.so\n"
         "leak:QWindowSystemInterface::handleScreenAdded\n"
+        // A QAction stays behind when its CFxUIAction dies: only widgets are released.
+        "leak:CFxUIActionImpl::CreateFrontendControl\n"
         // Nobody owns the QButtonGroup that is a radio group's handle: only widgets are released.
         "leak:CFxUIRadioGroupImpl::CreateFrontendControl\n";
 }
