@@ -1,8 +1,9 @@
+#include "fixtures/plugins/FixtureDialog.h"
 #include "host/ModuleLoader.h"
 #include "host/ModuleProbe.h"
 #include "host/SignalLog.h"
 #include "support/TestMain.h"
-#include "UI/FxUIDialog.h"
+#include "UI/FxUIStyle.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -12,6 +13,8 @@
 #include <QtCore/QThread>
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
+
+#include <stdexcept>
 
 namespace {
 
@@ -40,6 +43,8 @@ private Q_SLOTS:
     void probeGivesUpOnAModuleThatHangs();
     void otherThreadsCanLoadAfterAModuleThatThrows();
     void refusingDropsTheDialogAndItsWindow();
+    void renewingMakesAFreshDialogInTheSameLook();
+    void renewingThatFailsRefuses();
 
 private:
     SignalLog m_log;
@@ -196,6 +201,37 @@ void tst_GalleryModules::refusingDropsTheDialogAndItsWindow()
     QVERIFY(!module->IsLoaded());
     QVERIFY(!module->Window());
     module->SetLook(Look::Dark); // nothing to give it to
+}
+
+void tst_GalleryModules::renewingMakesAFreshDialogInTheSameLook()
+{
+    Module module(QStringLiteral("/nowhere/module.so"));
+    module.MakeDialog([] { return new FixtureDialog; });
+    const QString light = module.Window()->styleSheet();
+    module.SetLook(Look::Dark);
+    const QPointer<QWidget> first(module.Window());
+    module.Renew();
+    QVERIFY(!first);
+    QVERIFY(module.IsLoaded());
+    QCOMPARE(module.Window()->styleSheet(), GetStyle()->styleSheet());
+    module.SetLook(Look::Light);
+    QCOMPARE(module.Window()->styleSheet(), light);
+}
+
+void tst_GalleryModules::renewingThatFailsRefuses()
+{
+    Module module(QStringLiteral("/nowhere/module.so"));
+    int dialogs = 0;
+    module.MakeDialog([&dialogs] {
+        if (++dialogs > 1)
+            throw std::runtime_error("one is enough");
+        return new FixtureDialog;
+    });
+    module.Renew();
+    QVERIFY(!module.IsLoaded());
+    QCOMPARE(module.refusal, QStringLiteral("made no second dialog: one is enough"));
+    module.Renew();
+    QVERIFY(!module.IsLoaded());
 }
 
 int main(int argc, char **argv)

@@ -17,7 +17,7 @@ namespace {
 // The oldest lines go when there are more.
 constexpr int MostLogLines = 2000;
 
-constexpr int ItemHeight = 26;
+constexpr int ItemHeight = 24;
 
 QLabel *MakeHeading(const QString &text)
 {
@@ -29,7 +29,6 @@ QListWidget *MakeList()
     auto *list = new QListWidget;
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setWordWrap(true);
-    list->setSpacing(2);
     return list;
 }
 
@@ -122,6 +121,7 @@ QWidget *MainWindow::MakePanelSide()
     m_panels->setObjectName(QStringLiteral("panels"));
     m_refused = MakeList();
     m_refused->setObjectName(QStringLiteral("refused"));
+    m_refused->setSpacing(2);
     m_refused->setSelectionMode(QAbstractItemView::NoSelection);
     connect(m_panels, &QListWidget::currentRowChanged, this, &MainWindow::ShowSelected);
     connect(m_panels, &QListWidget::itemActivated, this, &MainWindow::RunSelected);
@@ -131,7 +131,7 @@ QWidget *MainWindow::MakePanelSide()
     auto *column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(MakeHeading(QStringLiteral("Panels")));
-    column->addWidget(m_panels, 3);
+    column->addWidget(m_panels, 5);
     column->addSpacing(8);
     column->addWidget(MakeHeading(QStringLiteral("Not loaded")));
     column->addWidget(m_refused, 1);
