@@ -4,7 +4,9 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {

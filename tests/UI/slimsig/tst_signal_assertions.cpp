@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <limits>
 
 // The assertions end the process in every build; tst_signal_assertions_ndebug compiles this file as
@@ -22,14 +23,16 @@ TEST(SignalAssertionsDeathTest, AnOffsetBehindTheEndEndsTheProcess)
     VoidProbe signal;
     signal.connect([] {});
     signal.m_offset = 2;
-    EXPECT_DEATH(signal.emit(), "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_offset <= end' failed\\.");
+    EXPECT_DEATH(signal.emit(),
+                 "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_offset <= end' failed\\.");
 }
 
 TEST(SignalAssertionsDeathTest, AnOffsetWithoutRecordsEndsTheProcess)
 {
     VoidProbe signal;
     signal.m_offset = 1;
-    EXPECT_DEATH(signal.emit(), "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_offset <= end' failed\\.");
+    EXPECT_DEATH(signal.emit(),
+                 "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_offset <= end' failed\\.");
 }
 
 TEST(SignalAssertionsDeathTest, TheLastOfNoRecordsEndsTheProcess)
@@ -45,8 +48,9 @@ TEST(SignalAssertionsDeathTest, ADisconnectBesideASlotConnectedEmptyEndsTheProce
     signal.connect(nullptr);
     auto connection = signal.connect([] {});
     signal.connect([&connection] { connection.disconnect(); });
-    EXPECT_DEATH(signal.emit(),
-                 "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_size == pending\\.size\\(\\)' failed\\.");
+    EXPECT_DEATH(
+        signal.emit(),
+        "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_size == pending\\.size\\(\\)' failed\\.");
 }
 
 TEST(SignalAssertionsDeathTest, ACountWithoutRecordsEndsTheProcess)

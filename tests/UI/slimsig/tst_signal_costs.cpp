@@ -4,8 +4,11 @@
 
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <new>
 #include <string>
+#include <utility>
+#include <vector>
 
 // How often the signal allocates, copies and moves.
 

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <functional>
+#include <iostream>
 #include <memory>
 #include <random>
 #include <string>
