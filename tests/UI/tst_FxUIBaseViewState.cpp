@@ -33,6 +33,7 @@ private Q_SLOTS:
     void disabledIsTheOpposite();
     void enabledIsStoredWhateverTheHandleIs();
     void visibleGoesToTheWidget();
+    void visibleGoesThroughTheVirtualOperation();
     void showingEmitsAboutToShowBeforeTheWidgetShows();
     void hidingEmitsNothing();
     void slotMayCancelTheShowing();
@@ -107,6 +108,24 @@ void tst_FxUIBaseViewState::visibleGoesToTheWidget()
     QVERIFY(view.isVisible()); // the widget isn't asked
     view.setVisible(false);
     QVERIFY(!view.isVisible());
+}
+
+void tst_FxUIBaseViewState::visibleGoesThroughTheVirtualOperation()
+{
+    class Refusing : public QWidget {
+    public:
+        void setVisible(bool visible) override { calls.append(visible); }
+
+        QList<bool> calls;
+    };
+
+    ViewProbe view;
+    auto *widget = new Refusing;
+    view.Take(widget);
+    view.setVisible(true);
+    view.setVisible(false);
+    QCOMPARE(widget->calls, (QList<bool> { true, false }));
+    QVERIFY(!widget->isVisible());
 }
 
 void tst_FxUIBaseViewState::showingEmitsAboutToShowBeforeTheWidgetShows()

@@ -96,6 +96,7 @@ private Q_SLOTS:
     void destructionGoesFromImplementationToChildrenInOrder();
     void dyingChildTakesItselfOutOfTheRecordOfItsParent();
     void childDeletedByASiblingDuringDestructionDiesOnce();
+    void constructorThatThrowsFreesTheImplementation();
     void cyclesAreNotRefused();
     void declaredPropertyIsStoredAndSet();
     void storedPropertyOutlivesAChangeByTheHandle();
@@ -287,6 +288,24 @@ void tst_FxUIObject::childDeletedByASiblingDuringDestructionDiesOnce()
     first->atEnd = [second] { delete second; };
     delete parent;
     QCOMPARE(log.count(QStringLiteral("second gone")), 1);
+}
+
+void tst_FxUIObject::constructorThatThrowsFreesTheImplementation()
+{
+    class Throwing : public Probe {
+    public:
+        Throwing(QStringList *log, CFxUIObject *parent)
+            : Probe(QStringLiteral("throwing"), log, parent)
+        {
+            throw std::runtime_error("constructor");
+        }
+    };
+
+    QStringList log;
+    CFxUIObject parent;
+    QVERIFY_EXCEPTION_THROWN(Throwing(&log, &parent), std::runtime_error);
+    QCOMPARE(log.last(), QStringLiteral("throwing impl gone"));
+    QVERIFY(parent.children().isEmpty());
 }
 
 void tst_FxUIObject::cyclesAreNotRefused()

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void exceptionOfASlotPassesThroughTheEvent();
     void negativeIntervalGoesToQtUnchecked();
     void startAndStopWithoutHandleChangeTheFlagAlone();
+    void destroyedQtTimerLeavesTheFlagToItself();
     void deletedWhileRunningDoesNotFire();
     void destructionDeletesTheTimerAtOnce();
     void singleShotRunsFromTheEventLoop();
@@ -199,6 +200,22 @@ void tst_FxUITimer::startAndStopWithoutHandleChangeTheFlagAlone()
     QVERIFY(!static_cast<QTimer *>(handle.get())->isActive());
     timer.stop();
     QVERIFY(!timer.isActive());
+}
+
+void tst_FxUITimer::destroyedQtTimerLeavesTheFlagToItself()
+{
+    CFxUITimer timer;
+    auto *impl = static_cast<CFxUITimerImpl *>(timer.impl);
+    timer.start(5000);
+    impl->DestroyTimerImpl();
+    QVERIFY(!timer.getHandle());
+    QVERIFY(timer.isActive());
+    timer.stop();
+    QVERIFY(!timer.isActive());
+    timer.start(1);
+    QVERIFY(timer.isActive());
+    impl->DestroyTimerImpl();
+    QVERIFY(!timer.getHandle());
 }
 
 void tst_FxUITimer::deletedWhileRunningDoesNotFire()

@@ -10,6 +10,7 @@
 #include "UI/Impl/qt/frontend/FxUIVertLayoutFrontend.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 #include <QtWidgets/QVBoxLayout>
 
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void removedChildLeavesTheQtLayoutButNotTheScreen();
     void radioGroupTakesNoPlace();
     void childWithoutWidgetTakesNoPlace();
+    void columnInItselfTakesNoPlace();
     void deletedChildLeavesTheQtLayout();
 
     void busyStateStartsTheSpinnerAndNoFlag();
@@ -322,6 +324,18 @@ void tst_FxUIVerticalLayout::childWithoutWidgetTakesNoPlace()
     foreign->setHandle(nullptr);
     delete bare;
     delete foreign;
+}
+
+void tst_FxUIVerticalLayout::columnInItselfTakesNoPlace()
+{
+    CFxUIVerticalLayout layout;
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("Cannot add parent widget")));
+    layout.addView(&layout);
+    QCOMPARE(layout.parent(), &layout); // cycles aren't refused in the object tree
+    QCOMPARE(QtLayout(layout)->count(), 0);
+    layout.removeView(&layout);
+    QVERIFY(!layout.parent());
 }
 
 void tst_FxUIVerticalLayout::deletedChildLeavesTheQtLayout()
