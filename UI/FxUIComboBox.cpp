@@ -39,7 +39,7 @@ void CFxUIComboBox::insertItem(int index, const QIcon &icon, const QString &text
     ImplOf<CFxUIComboBoxImpl>(this)->insertItem(index, icon, text, userData);
 }
 
-// Over a copy: a slot may change the list that was passed.
+// Over a copy, which clang-tidy takes for idle: a slot may change the list that was passed.
 void CFxUIComboBox::insertItems(int index, const QStringList &texts)
 {
     const QStringList copy = texts; // NOLINT(performance-unnecessary-copy-initialization)

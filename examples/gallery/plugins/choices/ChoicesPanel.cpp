@@ -9,6 +9,9 @@
 #include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 QIcon ColorIcon(const QColor &color)
@@ -94,7 +97,7 @@ private:
             lines.append(QStringLiteral("isCollapsed() ") + GalleryText(box->isCollapsed()));
             return lines.join(QLatin1Char('\n'));
         });
-        for (CFxUIRadioButton *button : buttons)
+        for (CFxUIRadioButton *button : std::as_const(buttons))
             row.Reports("clicked", button->clicked()).Reports("toggled", button->toggled());
         row.Reports("onCollapsedStateChanged", box->onCollapsedStateChanged());
 
