@@ -27,8 +27,9 @@ private:
     void BuildLife()
     {
         AddHeading("The life of a dialog");
-        AddNote("SetupUI() runs once, at the first exec(). Before that setVisible(true) shows an "
-                "empty window. Ok gives 1, Cancel 0, Escape 0, done(5) 5.");
+        AddNote(
+            "SetupUI() runs at the first exec(); before, setVisible(true) shows an empty window. "
+            "Ok gives 1, Cancel and Escape 0.");
         auto *run = MakeButton("exec()");
         m_life = std::make_unique<GalleryRow>(AddRow("A run", run, [this] {
             return QStringLiteral("result() ") + GalleryText(m_dialog->result())
@@ -49,8 +50,9 @@ private:
     void BuildVeto()
     {
         AddHeading("A veto of Escape");
-        AddNote("A host that implements IFxUIDialogFrontend is asked when Escape or the close "
-                "button is pressed. Cancel goes to reject() and doesn't ask.");
+        AddNote(
+            "IFxUIDialogFrontend is asked at Escape and at the close button of the window. Cancel "
+            "calls reject(), which doesn't ask.");
         auto *allow = new CFxUICheckBox;
         allow->setText(QStringLiteral("IsRejectAllowed()"));
         allow->setChecked(true);
