@@ -65,8 +65,6 @@ void tst_GalleryPictures::looksAsKept_data()
 {
     QTest::addColumn<QString>("file");
     QStringList files = m_kept.entryList({ QStringLiteral("*.png") }, QDir::Files);
-    if (files.isEmpty())
-        QSKIP("there are no kept pictures yet: run tests/pictures/accept");
     files += m_made.entryList({ QStringLiteral("*.png") }, QDir::Files);
     files.removeDuplicates();
     files.sort();
