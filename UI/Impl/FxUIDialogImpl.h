@@ -3,6 +3,7 @@
 #include "UI/FxUISignal.h"
 #include "UI/Impl/FxUIObjectImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 class CFxUIHideEvent;
@@ -77,4 +78,5 @@ protected:
     CFxUISignal<void()> m_accepted; ///< emitted by OnAccepted() and OnAcceptPressed()
     CFxUISignal<void()> m_rejected; ///< emitted by OnRejected() and OnRejectPressed()
     CFxUISignal<void(int)> m_finished; ///< never emitted
+    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

@@ -245,6 +245,11 @@ void tst_FxUITextView::setTextPutsTheCursorBehindTheText()
     view.setText(QStringLiteral("abc"));
     QCOMPARE(Widget(view)->textCursor().position(), 3);
     QVERIFY(!Widget(view)->textCursor().hasSelection());
+    Widget(view)->moveCursor(QTextCursor::Start);
+    Widget(view)->moveCursor(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    view.setText(QStringLiteral("de"));
+    QCOMPARE(Widget(view)->textCursor().position(), 2);
+    QVERIFY(!Widget(view)->textCursor().hasSelection());
 }
 
 void tst_FxUITextView::setHtmlTextShowsMarkupAndContentIsPlain()

@@ -28,14 +28,16 @@ void CFxUIDialogImpl::CreateFrontendDialogImpl()
 {
     auto *dialog = new CFxUIDialogFrontend;
     dialog->impl = this;
+    m_frontend = dialog;
     owner->setHandle(dialog);
 }
 
 // The window is left behind, with its group box and Qt layout inside. Intended.
 void CFxUIDialogImpl::DestroyFrontendDialogImpl()
 {
-    if (auto *dialog = FrontendCast<CFxUIDialogFrontend>(owner)) {
+    if (auto *dialog = qobject_cast<CFxUIDialogFrontend *>(m_frontend.data()))
         dialog->impl = nullptr;
+    if (auto *dialog = FrontendCast<CFxUIDialogFrontend>(owner)) {
         dialog->setParent(nullptr);
         dialog->hide(); // without a parent before, setParent() hasn't done it
     }

@@ -6,6 +6,7 @@
 
 #include <QtTest/QTest>
 
+#include <memory>
 #include <type_traits>
 
 static_assert(std::is_base_of_v<CFxDialog, CFxUIDialogFrontend>);
@@ -37,6 +38,11 @@ public:
     }
 };
 
+class EmptyDialog : public CFxUIDialog {
+public:
+    void SetupUI() override { }
+};
+
 } // namespace
 
 class tst_FxUIDialogFrontend : public QObject {
@@ -50,6 +56,7 @@ private Q_SLOTS:
     void commonParametersSetTheParentThenTheFlags();
     void worksWithoutAnImplementationObject();
     void editorCommandsAndHelpAreTheHosts();
+    void takenFromItsDialogItStandsAlone();
 };
 
 void tst_FxUIDialogFrontend::isAQObjectClassOfItsOwnWithoutSignalsAndSlots()
@@ -126,6 +133,17 @@ void tst_FxUIDialogFrontend::editorCommandsAndHelpAreTheHosts()
     host->CompleteEditorCommand();
     host->Help();
     QVERIFY(!window.isVisible());
+}
+
+void tst_FxUIDialogFrontend::takenFromItsDialogItStandsAlone()
+{
+    auto dialog = std::make_unique<EmptyDialog>();
+    const std::unique_ptr<CFxUIDialogFrontend> window(
+        qobject_cast<CFxUIDialogFrontend *>(dialog->getHandle()));
+    dialog->setHandle(nullptr);
+    dialog.reset();
+    QVERIFY(!window->impl);
+    QCOMPARE(window->GetHelpId(), 0);
 }
 
 int main(int argc, char **argv)

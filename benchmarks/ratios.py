@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Runs bench_controls and prints each row as a ratio to the bare Qt widget.
+"""Runs a benchmark program and prints each row as a ratio to bare Qt.
 
-Usage: report.py BENCH_CONTROLS [--plot FILE.svg]
+Usage: ratios.py BENCH_PROGRAM [--wall] [--plot FILE.svg]
 
 The repetitions of all rows are interleaved and the medians compared, so that a change of the
 machine's speed during the run hits both sides of a pair alike.
@@ -14,7 +14,7 @@ import subprocess
 import sys
 
 
-def measure(program):
+def measure(program, clock):
     command = [program, "--benchmark_format=json", "--benchmark_repetitions=9",
                "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.02"]
     print("measuring, some minutes ...", file=sys.stderr)
@@ -22,18 +22,16 @@ def measure(program):
     samples = {}
     for row in json.loads(result.stdout)["benchmarks"]:
         if row["run_type"] == "iteration":
-            samples.setdefault(row["run_name"], []).append(row["cpu_time"])
+            samples.setdefault(row["run_name"], []).append(row[clock])
     return {name: statistics.median(values) for name, values in samples.items()}
 
 
 def print_ratios(medians):
-    print(f"{'':28} {'CommonUI':>12} {'Qt':>12} {'ratio':>7}")
-    for name, qt in medians.items():
-        if not name.endswith("/qt"):
-            continue
-        row = name[:-len("/qt")]
-        ours = medians[row + "/commonui"]
-        print(f"{row:28} {ours:9.0f} ns {qt:9.0f} ns {ours / qt:7.2f}")
+    """One line for each row NAME/PEER: the time, and its ratio to NAME/qt."""
+    for name, time in sorted(medians.items()):
+        row, _, peer = name.rpartition("/")
+        if row + "/qt" in medians:
+            print(f"{row:28} {peer:10} {time:12.0f} ns {time / medians[row + '/qt']:7.2f}")
 
 
 def curve(medians):
@@ -84,16 +82,18 @@ def plot(points, path):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("program", help="the built bench_controls")
+    parser.add_argument("program", help="the built program, bench_controls for one")
+    parser.add_argument("--wall", action="store_true", help="compare wall time, not processor time")
     parser.add_argument("--plot", metavar="FILE.svg", help="plot setText of a text view")
     arguments = parser.parse_args()
-    medians = measure(arguments.program)
+    medians = measure(arguments.program, "real_time" if arguments.wall else "cpu_time")
     print_ratios(medians)
     points = curve(medians)
-    print("\ntext view, setText over an old text of")
+    if points:
+        print("\ntext view, setText over an old text of")
     for length, microseconds in points:
         print(f"{length:8} characters {microseconds:10.0f} us")
-    if arguments.plot:
+    if arguments.plot and points:
         plot(points, arguments.plot)
 
 

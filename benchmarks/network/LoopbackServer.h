@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QThread>
+
+/// An HTTP server (GET /small, GET /large) and a WebSocket server that echoes, on the loopback
+/// interface, in a thread of their own.
+class LoopbackServer : public QThread {
+public:
+    static constexpr int SmallSize = 1000; // bytes
+    static constexpr int LargeSize = 64 * 1024 * 1024; // bytes
+
+    /// Returns when both listen.
+    LoopbackServer();
+    ~LoopbackServer() override;
+
+    QString Http(const QString &path) const;
+    QString WebSocket() const;
+
+protected:
+    void run() override;
+
+private:
+    quint16 m_httpPort = 0;
+    quint16 m_webSocketPort = 0;
+};
