@@ -22,7 +22,7 @@ def measure(program, clock):
     samples = {}
     for row in json.loads(result.stdout)["benchmarks"]:
         if row["run_type"] == "iteration":
-            samples.setdefault(row["run_name"], []).append(row[clock])
+            samples.setdefault(row["run_name"].replace("/real_time", ""), []).append(row[clock])
     return {name: statistics.median(values) for name, values in samples.items()}
 
 
@@ -44,7 +44,7 @@ def curve(medians):
 def plot(points, path):
     """Writes a plot with logarithmic axes."""
     import math
-    width, height, margin = 640, 400, 60
+    width, height, margin = 680, 420, 80
     xs = [math.log10(x) for x, _ in points]
     ys = [math.log10(y) for _, y in points]
     x_low, x_high = min(xs), max(xs)
