@@ -71,7 +71,7 @@ void tst_GalleryTextPanels::textEntryMasksTheTime()
 void tst_GalleryTextPanels::textViewShowsPlainTextAndHtml()
 {
     RunPanel("textview", [](Panel &panel) {
-        QVERIFY(panel.Shows("getContent() \"R&amp;D: <b>a</b> &lt; <i>b</i>\""));
+        QVERIFY(panel.Shows("getContent() \"R&amp;D: <b>a</b> &lt; <u>b</u>\""));
         QVERIFY(panel.Shows("getContent() \"R&D: a < b\""));
     });
 }

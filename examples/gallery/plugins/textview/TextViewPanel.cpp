@@ -25,7 +25,7 @@ private:
         AddHeading("Plain text and HTML");
         AddNote("The same text, given to setText() and to setHtmlText(). getContent() is the plain "
                 "text of the document in both cases. setText() emits textChanged twice.");
-        const QString text = QStringLiteral("R&amp;D: <b>a</b> &lt; <i>b</i>");
+        const QString text = QStringLiteral("R&amp;D: <b>a</b> &lt; <u>b</u>");
         auto *plain = new CFxUITextView;
         GalleryRow plainRow = AddView("setText", plain);
         plain->setText(text);
