@@ -3,17 +3,6 @@
 #include "UI/FxUIDialog.h"
 #include "UI/FxUIPushButton.h"
 
-namespace {
-
-void DeleteWrapper(CFxUIPushButton *wrapper)
-{
-    if (wrapper)
-        wrapper->setHandle(nullptr);
-    delete wrapper;
-}
-
-} // namespace
-
 CFxUIDialogButtonBoxImpl::CFxUIDialogButtonBoxImpl(CFxUIDialogButtonBox *box, CFxUIDialog *dialog)
     : CFxUIBaseViewImpl(box)
     , m_accepted(box)
@@ -27,9 +16,13 @@ CFxUIDialogButtonBoxImpl::CFxUIDialogButtonBoxImpl(CFxUIDialogButtonBox *box, CF
 
 CFxUIDialogButtonBoxImpl::~CFxUIDialogButtonBoxImpl()
 {
-    DeleteWrapper(m_okButton);
-    DeleteWrapper(m_cancelButton);
-    DeleteWrapper(m_helpButton);
+    CFxUIPushButton *const wrappers[] = { m_okButton, m_cancelButton, m_helpButton };
+    for (CFxUIPushButton *wrapper : wrappers) {
+        if (wrapper)
+            wrapper->setHandle(nullptr);
+    }
+    for (const CFxUIPushButton *wrapper : wrappers)
+        delete wrapper;
 }
 
 void CFxUIDialogButtonBoxImpl::ConnectDialog(CFxUIDialog *dialog)

@@ -50,7 +50,7 @@ public:
     /// Returns the content area. Null before the first exec().
     CFxUIVerticalLayout *GetLayout();
 
-    /// No effect.
+    /// Asks GetHelpId(), and has no effect beyond that.
     void openHelp();
 
     /// Tells the host's active document, hands the result to the window (QDialog::setResult) and

@@ -56,7 +56,8 @@ public:
     /// and a press doesn't emit the wrapper's clicked().
     CFxUIPushButton *button(CFxUIDialogButtonBox::StandardButton which) const;
 
-    /// Emitted when Ok is pressed, after clicked(); and when the dialog emits its own accepted().
+    /// Emitted when Ok is pressed, after clicked(); and when the wrapper of Ok emits its clicked(),
+    /// as the dialog's own accepted() makes it do.
     CFxUISignal<void()> &accepted();
 
     /// Emitted when any of the three is pressed. The argument is the Help button's wrapper, always.
@@ -65,8 +66,8 @@ public:
     /// Emitted by CFxUIDialogImpl::OnHelpPressed() alone, and not when Help is pressed.
     CFxUISignal<void()> &helpRequest();
 
-    /// Emitted when Cancel is pressed, after clicked(); and when the dialog emits its own
-    /// rejected().
+    /// Emitted when Cancel is pressed, after clicked(); and when the wrapper of Cancel emits its
+    /// clicked(), as the dialog's own rejected() makes it do.
     CFxUISignal<void()> &rejected();
 };
 

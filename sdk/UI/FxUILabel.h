@@ -32,7 +32,8 @@ public:
     /// QFont::Bold or QFont::Normal on the widget's font. Not stored.
     void setBoldText(bool bold);
 
-    /// Sets the size of the text in pixels (QFont::setPixelSize).
+    /// Sets the size of the text in pixels (QFont::setPixelSize, which refuses 0 and less with a
+    /// warning).
     void setFontSize(int pixels);
 
     /// Default: false.

@@ -19,6 +19,7 @@ public:
     QStringList calls;
     std::function<void()> inSetup;
     int helpId = 42;
+    mutable int helpIdsAsked = 0;
 
     void SetupUI() override
     {
@@ -27,7 +28,11 @@ public:
             inSetup();
     }
 
-    int GetHelpId() const override { return helpId; }
+    int GetHelpId() const override
+    {
+        ++helpIdsAsked;
+        return helpId;
+    }
 
     const char *GetHelpURL() const override { return "https://help.example/"; }
 

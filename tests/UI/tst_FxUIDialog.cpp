@@ -43,6 +43,7 @@ class tst_FxUIDialog : public QObject {
 private Q_SLOTS:
     void cleanup();
     void handleIsAHiddenWindowOfTheHost();
+    void handleIsThereBeforeTheImplementationObject();
     void windowHasTitleSystemMenuAndCloseButton();
     void styleSheetIsTheLightStyle();
     void frontendClassNameIsEmpty();
@@ -64,7 +65,7 @@ private Q_SLOTS:
     void onHelpPressedTestsTheBlockFlagOfTheBox();
     void helpIsNothingByDefault();
     void helpIdReachesTheHostsDialog();
-    void openHelpDoesNothing();
+    void openHelpAsksForTheHelpIdAlone();
     void viewEventsOfTheImplementationReachTheDialog();
     void viewEventsAreNotSentByShowingAndHiding();
     void windowTitleIsAnsweredFromTheRecord();
@@ -84,6 +85,18 @@ void tst_FxUIDialog::handleIsAHiddenWindowOfTheHost()
     QCOMPARE(Window(dialog)->impl, dialog.Impl());
     QVERIFY(!Window(dialog)->parentWidget());
     QVERIFY(!Window(dialog)->isVisible());
+}
+
+void tst_FxUIDialog::handleIsThereBeforeTheImplementationObject()
+{
+    TestDialog dialog;
+    const CFxUIDialogFrontend *first = Window(dialog);
+    const CFxUIObjectImpl *stored = dialog.impl;
+    const CFxUIDialogImpl another(&dialog); // its constructor alone
+    QVERIFY(Window(dialog));
+    QVERIFY(Window(dialog) != first);
+    QCOMPARE(Window(dialog)->impl, &another);
+    QCOMPARE(dialog.impl, stored);
 }
 
 void tst_FxUIDialog::windowHasTitleSystemMenuAndCloseButton()
@@ -370,11 +383,12 @@ void tst_FxUIDialog::helpIdReachesTheHostsDialog()
     QCOMPARE(dialog.Impl()->GetHelpURL(), "https://help.example/");
 }
 
-void tst_FxUIDialog::openHelpDoesNothing()
+void tst_FxUIDialog::openHelpAsksForTheHelpIdAlone()
 {
     TestDialog dialog;
     const DialogEmissions emissions(dialog);
     dialog.openHelp();
+    QCOMPARE(dialog.helpIdsAsked, 1);
     QVERIFY(dialog.calls.isEmpty());
     QVERIFY(emissions.log.isEmpty());
     QVERIFY(!Window(dialog)->isVisible());

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void boxWithoutADialogReportsItsPresses();
     void boxOfADialogThatIsNotSetUpIsInNoLayout();
     void qtButtonsAreDeletedOnceWithTheirBox();
+    void wrappersLetGoOfTheQtButtonsBeforeAnyDies();
 };
 
 void tst_FxUIDialogButtonBox::cleanup()
@@ -237,6 +238,37 @@ void tst_FxUIDialogButtonBox::qtButtonsAreDeletedOnceWithTheirBox()
     FlushDeferredDeletes();
     for (const QPointer<QPushButton> &button : buttons)
         QVERIFY(!button);
+}
+
+// A child of the first wrapper dies with it, and sees the others as they are then.
+void tst_FxUIDialogButtonBox::wrappersLetGoOfTheQtButtonsBeforeAnyDies()
+{
+    class Witness : public CFxUIObject {
+    public:
+        Witness(const Box &box, QList<const QObject *> &handles)
+            : m_handles(handles)
+        {
+            for (const Box::StandardButton which : { Box::Ok, Box::Cancel, Box::Help })
+                m_wrappers.append(box.button(which));
+        }
+
+        ~Witness() override
+        {
+            for (const CFxUIObject *wrapper : m_wrappers)
+                m_handles.append(wrapper->getHandle());
+        }
+
+    private:
+        QList<const CFxUIObject *> m_wrappers;
+        QList<const QObject *> &m_handles;
+    };
+
+    QList<const QObject *> handles;
+    {
+        const Box box(nullptr);
+        (new Witness(box, handles))->setParent(box.button(Box::Ok));
+    }
+    QCOMPARE(handles, QList<const QObject *>({ nullptr, nullptr, nullptr }));
 }
 
 int main(int argc, char **argv)
