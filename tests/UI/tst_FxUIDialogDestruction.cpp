@@ -41,7 +41,7 @@ private Q_SLOTS:
     void shownWindowIsHiddenAtTheEnd();
     void leftBehindWindowIsHarmless();
     void dialogThatNeverRanHasNoLayoutToDelete();
-    void contentDiesBeforeTheChildren();
+    void contentDiesThenTheSignalsThenTheChildren();
     void buttonBoxDiesWithItsDialog();
     void busyContentEndsWithItsDialog();
     void windowDeletedByItsParentFirst();
@@ -140,7 +140,7 @@ void tst_FxUIDialogDestruction::dialogThatNeverRanHasNoLayoutToDelete()
     QVERIFY(!LeftBehindWindows().first()->layout());
 }
 
-void tst_FxUIDialogDestruction::contentDiesBeforeTheChildren()
+void tst_FxUIDialogDestruction::contentDiesThenTheSignalsThenTheChildren()
 {
     QStringList log;
     auto dialog = std::make_unique<TestDialog>();
@@ -155,9 +155,19 @@ void tst_FxUIDialogDestruction::contentDiesBeforeTheChildren()
         child->setParent(dialog.get());
     };
     ExecAndDo(*dialog, [&] { dialog->accept(); });
+
+    class Empty {
+    public:
+        virtual ~Empty() = default;
+    };
+
+    // A slot dies with its signal, and what it holds with the slot.
+    dialog->accepted().connect(
+        [held = std::make_shared<Mortal<Empty>>([&] { say("slot"); })] { Q_UNUSED(held) });
     dialog.reset();
     QCOMPARE(log,
              QStringList({ QStringLiteral("view without a handle"),
+                           QStringLiteral("slot without a handle"),
                            QStringLiteral("child without a handle") }));
 }
 

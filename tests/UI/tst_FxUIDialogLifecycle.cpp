@@ -43,6 +43,38 @@ private:
     CFxDocument m_document;
 };
 
+// Writes down the window's result code at each hiding.
+class ResultWatcher : public QObject {
+    Q_OBJECT
+
+public:
+    QList<int> results;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide)
+            results.append(static_cast<QDialog *>(watched)->result());
+        return false;
+    }
+};
+
+// A window of a host that runs, shows and hides in its own way.
+class HostWindow : public CFxUIDialogFrontend {
+public:
+    QStringList calls;
+
+    int exec() override
+    {
+        calls.append(QStringLiteral("exec"));
+        return 77;
+    }
+
+    void setVisible(bool visible) override
+    {
+        calls.append(visible ? QStringLiteral("show") : QStringLiteral("hide"));
+    }
+};
+
 // Ways of closing a window that don't go through the public operations.
 void CloseByQt(CFxUIDialogFrontend *window, const QString &way)
 {
@@ -61,6 +93,7 @@ private Q_SLOTS:
     void cleanup();
     void documentIsToldBeforeTheSetUp();
     void documentIsToldBeforeTheWindowIsHidden();
+    void resultIsInPlaceWhenTheWindowHides();
     void documentIsToldByEachWayOfEnding_data();
     void documentIsToldByEachWayOfEnding();
     void documentIsToldAfterSetVisibleHasHiddenTheWindow();
@@ -72,6 +105,7 @@ private Q_SLOTS:
     void secondRunShowsTheSameViews();
     void runAfterClosingByQt();
     void showingAfterARunShowsTheContent();
+    void virtualOperationsOfTheWindowAreCalled();
     void runWithoutAWindowAnswersTheResult();
     void operationsWithoutAWindowKeepTheState();
 };
@@ -114,6 +148,15 @@ void tst_FxUIDialogLifecycle::documentIsToldBeforeTheWindowIsHidden()
     ExecAndDo(dialog, [&] { dialog.done(5); });
     QVERIFY(visible);
     QCOMPARE(result, 5); // stored before
+}
+
+void tst_FxUIDialogLifecycle::resultIsInPlaceWhenTheWindowHides()
+{
+    TestDialog dialog;
+    ResultWatcher watcher;
+    Window(dialog)->installEventFilter(&watcher);
+    ExecAndDo(dialog, [&] { dialog.done(5); });
+    QCOMPARE(watcher.results, QList<int>({ 5 }));
 }
 
 void tst_FxUIDialogLifecycle::documentIsToldByEachWayOfEnding_data()
@@ -256,6 +299,24 @@ void tst_FxUIDialogLifecycle::showingAfterARunShowsTheContent()
     QVERIFY(static_cast<QWidget *>(dialog.GetLayout()->getHandle())->isVisible());
     QCOMPARE(dialog.calls.size(), 1);
     dialog.setVisible(false);
+}
+
+void tst_FxUIDialogLifecycle::virtualOperationsOfTheWindowAreCalled()
+{
+    TestDialog dialog;
+    const std::unique_ptr<CFxUIDialogFrontend> own(Window(dialog));
+    HostWindow window;
+    window.impl = dialog.Impl();
+    dialog.setHandle(&window);
+    QCOMPARE(dialog.exec(), 77);
+    QCOMPARE(dialog.result(), 77);
+    QCOMPARE(dialog.calls, QStringList({ QStringLiteral("SetupUI") }));
+    dialog.setVisible(true);
+    dialog.setVisible(false); // hides, and goes on with hide()
+    QCOMPARE(window.calls,
+             QStringList({ QStringLiteral("exec"), QStringLiteral("show"), QStringLiteral("hide"),
+                           QStringLiteral("hide") }));
+    dialog.setHandle(own.get());
 }
 
 void tst_FxUIDialogLifecycle::runWithoutAWindowAnswersTheResult()

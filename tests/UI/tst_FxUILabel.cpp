@@ -68,6 +68,7 @@ private Q_SLOTS:
     void clearOfTheImplementationResetsAllThree();
     void iconShowsAtTwentyFiveBySize_data();
     void iconShowsAtTwentyFiveBySize();
+    void iconShowsItsNormalPictureSwitchedOff();
     void nullIconClearsWhatIsShown();
     void pixmapShowsAtItsOwnSizeAfterAnIcon();
     void iconAndPixmapResetEachOther();
@@ -195,6 +196,26 @@ void tst_FxUILabel::iconShowsAtTwentyFiveBySize()
     CFxUILabel label;
     label.setIcon(QIcon(Picture(own.width(), own.height())));
     QCOMPARE(ShownSize(label), shown);
+}
+
+void tst_FxUILabel::iconShowsItsNormalPictureSwitchedOff()
+{
+    QIcon icon;
+    const auto add = [&icon](const QColor &color, QIcon::Mode mode, QIcon::State state) {
+        QPixmap pixmap(25, 25);
+        pixmap.fill(color);
+        icon.addPixmap(pixmap, mode, state);
+    };
+    for (const QIcon::Mode mode :
+         { QIcon::Normal, QIcon::Disabled, QIcon::Active, QIcon::Selected }) {
+        add(Qt::red, mode, QIcon::On);
+        add(mode == QIcon::Normal ? Qt::blue : Qt::red, mode, QIcon::Off);
+    }
+    CFxUILabel label;
+    label.setEnabled(false); // makes no difference
+    label.setIcon(icon);
+    const QImage shown = QtLabel(label)->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(shown.pixelColor(12, 12), QColor(Qt::blue));
 }
 
 void tst_FxUILabel::nullIconClearsWhatIsShown()

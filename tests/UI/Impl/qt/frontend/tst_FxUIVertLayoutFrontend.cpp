@@ -84,6 +84,7 @@ private Q_SLOTS:
     void keyGoesToTheParentWithoutSlots();
     void keyGoesToTheParentUnlessASlotClaimsIt();
     void claimedKeyStaysAndTheNextOneIsFree();
+    void claimedKeyIsAccepted();
     void claimMadeBeforehandCountsForTheNextKey();
     void blockedLayoutIsSilentAndTheEarlierClaimDecides();
     void slotSeesTheKeyBeforeTheParent();
@@ -221,6 +222,17 @@ void tst_FxUIVertLayoutFrontend::claimedKeyStaysAndTheNextOneIsFree()
     QTest::keyClick(stage.Widget(), Qt::Key_B);
     QCOMPARE(stage.window.keys, { Qt::Key_B });
     QVERIFY(!claimedAtStart);
+}
+
+void tst_FxUIVertLayoutFrontend::claimedKeyIsAccepted()
+{
+    Stage stage;
+    stage.layout.setEventAccepted(true);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    key.ignore(); // what the column finds
+    QCoreApplication::sendEvent(stage.Widget(), &key);
+    QVERIFY(key.isAccepted());
+    QVERIFY(stage.window.keys.isEmpty());
 }
 
 void tst_FxUIVertLayoutFrontend::claimMadeBeforehandCountsForTheNextKey()
