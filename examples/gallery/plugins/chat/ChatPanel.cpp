@@ -1,4 +1,5 @@
 #include "DemoPartner.h"
+#include "interface/DemoHost.h"
 #include "interface/GalleryPanel.h"
 #include "NA/FxNANetworkRequest.h"
 #include "NA/FxNAWebSocket.h"
@@ -95,7 +96,7 @@ private:
         }
         if (!m_partner)
             m_partner = std::make_unique<DemoPartner>();
-        m_socket.open(CFxNANetworkRequest(m_partner->Resolve(url)));
+        m_socket.open(CFxNANetworkRequest(ResolveDemoHost(url, *m_partner)));
     }
 
     void Say()

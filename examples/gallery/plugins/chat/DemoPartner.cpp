@@ -1,25 +1,15 @@
 #include "DemoPartner.h"
 
+#include "interface/DemoHost.h"
+
 #include <QtNetwork/QHostAddress>
 #include <QtWebSockets/QWebSocket>
 
-const QString DemoPartner::Name = QStringLiteral("demo");
-
 DemoPartner::DemoPartner()
-    : QWebSocketServer(Name, QWebSocketServer::NonSecureMode)
+    : QWebSocketServer(DemoHost, QWebSocketServer::NonSecureMode)
 {
     connect(this, &QWebSocketServer::newConnection, this, &DemoPartner::Accept);
     listen(QHostAddress::LocalHost);
-}
-
-QUrl DemoPartner::Resolve(const QUrl &url) const
-{
-    QUrl resolved = url;
-    if (url.host() == Name) {
-        resolved.setHost(serverAddress().toString());
-        resolved.setPort(serverPort());
-    }
-    return resolved;
 }
 
 void DemoPartner::Accept()

@@ -51,22 +51,10 @@ QByteArray Head(const QByteArray &status, const QByteArray &type, int length)
 
 } // namespace
 
-const QString DemoServer::Name = QStringLiteral("demo");
-
 DemoServer::DemoServer()
 {
     connect(this, &QTcpServer::newConnection, this, &DemoServer::Accept);
     listen(QHostAddress::LocalHost);
-}
-
-QUrl DemoServer::Resolve(const QUrl &url) const
-{
-    QUrl resolved = url;
-    if (url.host() == Name) {
-        resolved.setHost(serverAddress().toString());
-        resolved.setPort(serverPort());
-    }
-    return resolved;
 }
 
 void DemoServer::Accept()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/QByteArray>
-#include <QtCore/QUrl>
 #include <QtNetwork/QTcpServer>
 
 class QTcpSocket;
@@ -13,13 +12,7 @@ class DemoServer : public QTcpServer {
     Q_OBJECT
 
 public:
-    /// The host name that stands for this server in a URL that the user types.
-    static const QString Name;
-
     DemoServer();
-
-    /// Returns \a url with Name replaced by the server's address.
-    QUrl Resolve(const QUrl &url) const;
 
 private:
     void Accept();

@@ -1,4 +1,5 @@
 #include "DemoServer.h"
+#include "interface/DemoHost.h"
 #include "interface/GalleryPanel.h"
 #include "NA/FxNANetworkAccessManager.h"
 #include "NA/FxNANetworkReply.h"
@@ -111,7 +112,7 @@ private:
         }
         if (!m_server)
             m_server = std::make_unique<DemoServer>();
-        m_request.emplace(m_server->Resolve(url));
+        m_request.emplace(ResolveDemoHost(url, *m_server));
         FillRequest(*m_request);
         Tell(QStringLiteral("Waiting for an answer ..."));
         m_progress->setValue(0);
