@@ -5,6 +5,54 @@
 
 #include <string>
 
+namespace {
+
+// The children of a dying object that left it alive, which a sibling's destructor may make them do.
+// They die in their turn all the same; one that dies before takes itself out.
+struct Departures {
+    const CFxUIObject *parent;
+    QList<CFxUIObject *> departed;
+    Departures *outer;
+};
+
+Departures *innermostDepartures = nullptr;
+
+void NoteDeparture(const CFxUIObject *parent, CFxUIObject *child)
+{
+    for (Departures *noted = innermostDepartures; noted; noted = noted->outer) {
+        if (noted->parent == parent)
+            noted->departed.append(child);
+    }
+}
+
+void NoteDeath(CFxUIObject *object)
+{
+    for (Departures *noted = innermostDepartures; noted; noted = noted->outer)
+        noted->departed.removeAll(object);
+}
+
+// From a copy of the list: each child takes itself out of the list in the record as it dies. One
+// that a sibling's destructor has deleted meanwhile is gone already; one that came meanwhile isn't
+// the parent's to delete any more and is let go.
+void DeleteChildren(CFxUIObject *parent)
+{
+    Departures noted { parent, {}, innermostDepartures };
+    innermostDepartures = &noted;
+    const QList<CFxUIObject *> children = parent->children();
+    for (CFxUIObject *child : children) {
+        if (parent->data->indexOf(child) >= 0 || noted.departed.contains(child))
+            delete child;
+    }
+    innermostDepartures = noted.outer;
+    const QList<CFxUIObject *> late = parent->children();
+    for (CFxUIObject *child : late) {
+        if (child && !children.contains(child))
+            child->setParent(nullptr);
+    }
+}
+
+} // namespace
+
 CFxUIObject::CFxUIObject()
     : impl(nullptr)
     , data(new CFxUIObjectData)
@@ -14,15 +62,10 @@ CFxUIObject::CFxUIObject()
 CFxUIObject::~CFxUIObject()
 {
     setParent(nullptr);
+    NoteDeath(this);
     delete impl;
     impl = nullptr;
-    // A copy: each child takes itself out of the list in the record as it dies. One that has left
-    // meanwhile, deleted or moved by a sibling's destructor, is no longer this object's to delete.
-    const QList<CFxUIObject *> children = data->children();
-    for (CFxUIObject *child : children) {
-        if (data->indexOf(child) >= 0)
-            delete child;
-    }
+    DeleteChildren(this);
     delete data;
 }
 
@@ -70,8 +113,10 @@ CFxUIObject *CFxUIObject::parent() const
 
 void CFxUIObject::setParent(CFxUIObject *parent)
 {
-    if (data->parent())
-        data->parent()->data->removeChild(this);
+    if (CFxUIObject *const former = data->parent()) {
+        former->data->removeChild(this);
+        NoteDeparture(former, this);
+    }
     data->setParent(parent);
     if (parent)
         parent->data->addChild(this);

@@ -32,8 +32,10 @@ public:
         ExtraLarge = 4 ///< 336 pixels
     };
 
-    /// Makes a view without an implementation object. Over an existing Qt widget, given with
-    /// setHandle(), it gets a plain one at the first addView() or insertView().
+    /// Makes a view without an implementation object, in which the size is -1 and most setters do
+    /// nothing. It gets a plain one from setVisible(), setPalette(), palette(), setEventAccepted()
+    /// and the signals; over an existing Qt widget, given with setHandle(), also from addView() and
+    /// insertView().
     CFxUIBaseView();
 
     /// Releases the widget (QObject::deleteLater).

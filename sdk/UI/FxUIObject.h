@@ -19,7 +19,7 @@ public:
     CFxUIObject();
 
     /// Leaves the parent, deletes the implementation object with its signals, then the children,
-    /// first to last.
+    /// first to last; also one that a sibling's destructor moves to another parent meanwhile.
     virtual ~CFxUIObject();
 
     CFxUIObject(const CFxUIObject &) = delete;

@@ -1,6 +1,6 @@
 #include "UI/FxUIObject.h"
 
-#include "support/Events.h"
+#include "ObjectProbe.h"
 #include "support/TestMain.h"
 #include "UI/FxUILabel.h"
 #include "UI/FxUIObjectData.h"
@@ -9,9 +9,7 @@
 
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
-#include <QtWidgets/QLabel>
 
-#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <type_traits>
@@ -27,57 +25,6 @@ static_assert(
 static_assert(
     std::is_same_v<decltype(std::declval<const CFxUIObject &>().children()), QList<CFxUIObject *>>);
 
-namespace {
-
-// Writes into a log what becomes of it.
-class ProbeImpl : public CFxUIObjectImpl {
-public:
-    ProbeImpl(CFxUIObject *object, QString name, QStringList *log)
-        : CFxUIObjectImpl(object)
-        , m_name(std::move(name))
-        , m_log(log)
-    {
-    }
-
-    ~ProbeImpl() override { m_log->append(m_name + QStringLiteral(" impl gone")); }
-
-    bool SetPropertyImpl(const char *name, const QVariant & /*value*/) override
-    {
-        m_log->append(m_name + QStringLiteral(" set ") + QLatin1String(name));
-        return true;
-    }
-
-private:
-    QString m_name;
-    QStringList *m_log;
-};
-
-class Probe : public CFxUIObject {
-public:
-    Probe(const QString &name, QStringList *log, CFxUIObject *parent = nullptr)
-        : m_name(name)
-        , m_log(log)
-    {
-        impl = new ProbeImpl(this, name, log);
-        setParent(parent);
-    }
-
-    ~Probe() override
-    {
-        m_log->append(m_name + QStringLiteral(" gone"));
-        if (atEnd)
-            atEnd();
-    }
-
-    std::function<void()> atEnd;
-
-private:
-    QString m_name;
-    QStringList *m_log;
-};
-
-} // namespace
-
 class tst_FxUIObject : public QObject {
     Q_OBJECT
 
@@ -86,18 +33,13 @@ private Q_SLOTS:
     void handleIsStoredAndNotOwned();
     void handleIsNullOnceQtHasDeletedIt();
     void nameGoesToTheRecordAndTheHandle();
+    void nameIsStoredBeforeTheImplementationIsTold();
     void nameIsStoredWithoutImplementationOrHandle();
     void senderIsTheLastOneSet();
     void setParentMovesTheObjectBetweenLists();
     void sameParentMovesTheObjectToTheEnd();
     void setParentLeavesTheQtObjectsAlone();
     void childrenAreACopySoThatTheTreeMayChangeMeanwhile();
-    void deletedChildLeavesItsParent();
-    void destructionGoesFromImplementationToChildrenInOrder();
-    void dyingChildTakesItselfOutOfTheRecordOfItsParent();
-    void childDeletedByASiblingDuringDestructionDiesOnce();
-    void constructorThatThrowsFreesTheImplementation();
-    void cyclesAreNotRefused();
     void declaredPropertyIsStoredAndSet();
     void storedPropertyOutlivesAChangeByTheHandle();
     void undeclaredPropertyReachesTheHandleButNotTheRecord();
@@ -154,6 +96,17 @@ void tst_FxUIObject::nameGoesToTheRecordAndTheHandle()
     QCOMPARE(timer.getHandle()->objectName(), QStringLiteral("autosave"));
     timer.getHandle()->setObjectName(QStringLiteral("other"));
     QCOMPARE(timer.objectName(), QStringLiteral("autosave"));
+}
+
+void tst_FxUIObject::nameIsStoredBeforeTheImplementationIsTold()
+{
+    QStringList log;
+    ObjectProbe object(QStringLiteral("object"), &log);
+    object.setObjectName(QStringLiteral("first"));
+    object.setObjectName(QStringLiteral("second"));
+    QCOMPARE(log,
+             (QStringList { QStringLiteral("object named first after first"),
+                            QStringLiteral("object named second after second") }));
 }
 
 void tst_FxUIObject::nameIsStoredWithoutImplementationOrHandle()
@@ -230,101 +183,6 @@ void tst_FxUIObject::childrenAreACopySoThatTheTreeMayChangeMeanwhile()
     QVERIFY(parent.children().isEmpty());
 }
 
-void tst_FxUIObject::deletedChildLeavesItsParent()
-{
-    QStringList log;
-    {
-        CFxUIObject parent;
-        auto *first = new Probe(QStringLiteral("first"), &log, &parent);
-        auto *second = new Probe(QStringLiteral("second"), &log, &parent);
-        delete first;
-        QCOMPARE(parent.children(), { second });
-        log.clear();
-    }
-    QCOMPARE(log,
-             (QStringList { QStringLiteral("second gone"), QStringLiteral("second impl gone") }));
-}
-
-void tst_FxUIObject::destructionGoesFromImplementationToChildrenInOrder()
-{
-    QStringList log;
-    CFxUIObject root;
-    auto *parent = new Probe(QStringLiteral("parent"), &log, &root);
-    auto *first = new Probe(QStringLiteral("first"), &log, parent);
-    new Probe(QStringLiteral("second"), &log, parent);
-    new Probe(QStringLiteral("grandchild"), &log, first);
-    bool inList = true;
-    first->atEnd = [&] { inList = root.children().contains(parent); };
-    delete parent;
-    const QStringList order {
-        QStringLiteral("parent gone"),     QStringLiteral("parent impl gone"),
-        QStringLiteral("first gone"),      QStringLiteral("first impl gone"),
-        QStringLiteral("grandchild gone"), QStringLiteral("grandchild impl gone"),
-        QStringLiteral("second gone"),     QStringLiteral("second impl gone")
-    };
-    QCOMPARE(log, order);
-    QVERIFY(!inList);
-}
-
-void tst_FxUIObject::dyingChildTakesItselfOutOfTheRecordOfItsParent()
-{
-    QStringList log;
-    auto *parent = new Probe(QStringLiteral("parent"), &log);
-    new Probe(QStringLiteral("first"), &log, parent);
-    auto *second = new Probe(QStringLiteral("second"), &log, parent);
-    QList<CFxUIObject *> seenBySecond;
-    second->atEnd = [&] { seenBySecond = parent->children(); };
-    CFxUIObject *const expected = second;
-    delete parent;
-    QCOMPARE(seenBySecond, { expected });
-}
-
-void tst_FxUIObject::childDeletedByASiblingDuringDestructionDiesOnce()
-{
-    QStringList log;
-    auto *parent = new Probe(QStringLiteral("parent"), &log);
-    auto *first = new Probe(QStringLiteral("first"), &log, parent);
-    auto *second = new Probe(QStringLiteral("second"), &log, parent);
-    first->atEnd = [second] { delete second; };
-    delete parent;
-    QCOMPARE(log.count(QStringLiteral("second gone")), 1);
-}
-
-void tst_FxUIObject::constructorThatThrowsFreesTheImplementation()
-{
-    class Throwing : public Probe {
-    public:
-        Throwing(QStringList *log, CFxUIObject *parent)
-            : Probe(QStringLiteral("throwing"), log, parent)
-        {
-            throw std::runtime_error("constructor");
-        }
-    };
-
-    QStringList log;
-    CFxUIObject parent;
-    QVERIFY_EXCEPTION_THROWN(Throwing(&log, &parent), std::runtime_error);
-    QCOMPARE(log.last(), QStringLiteral("throwing impl gone"));
-    QVERIFY(parent.children().isEmpty());
-}
-
-void tst_FxUIObject::cyclesAreNotRefused()
-{
-    QStringList log;
-    auto *own = new Probe(QStringLiteral("own"), &log);
-    own->setParent(own);
-    QCOMPARE(own->parent(), own);
-    delete own;
-    QCOMPARE(log.count(QStringLiteral("own gone")), 1);
-
-    auto *first = new Probe(QStringLiteral("first"), &log);
-    auto *second = new Probe(QStringLiteral("second"), &log, first);
-    first->setParent(second);
-    delete first;
-    QCOMPARE(log.count(QStringLiteral("first gone")), 1);
-    QCOMPARE(log.count(QStringLiteral("second gone")), 1);
-}
-
 void tst_FxUIObject::declaredPropertyIsStoredAndSet()
 {
     CFxUITimer timer;
@@ -379,7 +237,7 @@ void tst_FxUIObject::propertyNamesAreComparedAsTexts()
 void tst_FxUIObject::implementationDecidesWhetherAPropertyIsStored()
 {
     QStringList log;
-    Probe object(QStringLiteral("object"), &log);
+    ObjectProbe object(QStringLiteral("object"), &log);
     QVERIFY(object.setProperty("anything", 7));
     QCOMPARE(log, { QStringLiteral("object set anything") });
     QCOMPARE(object.property("anything"), QVariant(7));
