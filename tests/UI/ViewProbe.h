@@ -23,14 +23,16 @@ public:
 
     QString GetFrontendClassName() override { return className; }
 
-    void AddViewImpl(CFxUIBaseView * /*view*/, float weight) override
+    void AddViewImpl(CFxUIBaseView *view, float weight) override
     {
         log.append(QStringLiteral("add %1").arg(double(weight)));
+        toldOfAChild = view->parent() == owner && owner->children().contains(view);
     }
 
-    void InsertViewImpl(CFxUIBaseView * /*view*/, int index, float weight) override
+    void InsertViewImpl(CFxUIBaseView *view, int index, float weight) override
     {
         log.append(QStringLiteral("insert %1 %2").arg(index).arg(double(weight)));
+        toldOfAChild = view->parent() == owner && owner->children().contains(view);
     }
 
     void RemoveViewImpl(CFxUIBaseView *view) override
@@ -65,6 +67,7 @@ public:
 
     QStringList log;
     QString className;
+    bool toldOfAChild = false;
 };
 
 /// A view over a plain widget.

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void widthPolicySetsTheRecord();
 
     void addViewTakesTheChildAndTellsTheContainer();
+    void childIsInTheTreeWhenTheContainerIsTold();
     void addViewOfAChildWithParentDoesNothing();
     void insertViewMovesAChildWithParent();
     void insertViewPutsTheChildAtTheEndOfTheRecord();
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void foreignHandleIsLeftAlone();
     void genericPathMakesNoFrontend();
     void destructionReleasesTheWidgetLater();
+    void destructionAsksForTheClassNameOnlyForAHandle();
     void destructionLeavesAForeignHandle();
     void viewOverAWidgetWithoutImplementationReleasesIt();
 };
@@ -128,6 +130,16 @@ void tst_FxUIBaseView::addViewTakesTheChildAndTellsTheContainer()
     QVERIFY(!child->Widget()->parentWidget());
     view.addView(new ViewProbe);
     QCOMPARE(view.Impl()->log.last(), QStringLiteral("add 0"));
+}
+
+void tst_FxUIBaseView::childIsInTheTreeWhenTheContainerIsTold()
+{
+    ViewProbe view;
+    view.addView(new ViewProbe);
+    QVERIFY(view.Impl()->toldOfAChild);
+    view.Impl()->toldOfAChild = false;
+    view.insertView(new ViewProbe, 0);
+    QVERIFY(view.Impl()->toldOfAChild);
 }
 
 void tst_FxUIBaseView::addViewOfAChildWithParentDoesNothing()
@@ -346,6 +358,43 @@ void tst_FxUIBaseView::destructionReleasesTheWidgetLater()
     const QPointer<QWidget> widget(view->Widget());
     view.reset();
     QVERIFY(widget);
+    FlushDeferredDeletes();
+    QVERIFY(!widget);
+}
+
+void tst_FxUIBaseView::destructionAsksForTheClassNameOnlyForAHandle()
+{
+    class Impl : public CFxUIBaseViewImpl {
+    public:
+        Impl(CFxUIObject *object, int *asked)
+            : CFxUIBaseViewImpl(object)
+            , m_asked(asked)
+        {
+        }
+
+        QString GetFrontendClassName() override
+        {
+            ++*m_asked;
+            return QStringLiteral("QTimer"); // isn't looked at
+        }
+
+    private:
+        int *m_asked;
+    };
+
+    int asked = 0;
+    {
+        CFxUIBaseView view;
+        view.impl = new Impl(&view, &asked);
+    }
+    QCOMPARE(asked, 0);
+    const QPointer<QWidget> widget(new QWidget);
+    {
+        CFxUIBaseView view;
+        view.impl = new Impl(&view, &asked);
+        view.setHandle(widget);
+    }
+    QCOMPARE(asked, 1);
     FlushDeferredDeletes();
     QVERIFY(!widget);
 }

@@ -9,6 +9,9 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 // Counts what it paints, and keeps the reason of the last focus.
@@ -23,6 +26,21 @@ protected:
     void focusInEvent(QFocusEvent *event) override { reason = event->reason(); }
 };
 
+// Tells when Qt has changed something about it.
+class Reporting : public QWidget {
+public:
+    std::function<void()> changed = [] {};
+
+    void setVisible(bool visible) override
+    {
+        changed();
+        QWidget::setVisible(visible);
+    }
+
+protected:
+    void changeEvent(QEvent * /*event*/) override { changed(); }
+};
+
 } // namespace
 
 class tst_FxUIBaseViewState : public QObject {
@@ -30,6 +48,7 @@ class tst_FxUIBaseViewState : public QObject {
 
 private Q_SLOTS:
     void enabledGoesToTheWidget();
+    void stateIsWrittenBeforeTheWidgetChanges();
     void disabledIsTheOpposite();
     void enabledIsStoredWhateverTheHandleIs();
     void visibleGoesToTheWidget();
@@ -72,6 +91,32 @@ void tst_FxUIBaseViewState::enabledGoesToTheWidget()
     view.setEnabled(true);
     QVERIFY(view.isEnabled());
     QVERIFY(view.Widget()->isEnabled());
+}
+
+void tst_FxUIBaseViewState::stateIsWrittenBeforeTheWidgetChanges()
+{
+    ViewProbe view;
+    auto *widget = new Reporting;
+    view.Take(widget);
+    QStringList seen;
+    widget->changed = [&] {
+        seen.append(QStringLiteral("enabled %1 visible %2 text %3")
+                        .arg(view.isEnabled())
+                        .arg(view.isVisible())
+                        .arg(view.palette().color(QPalette::Text).name()));
+    };
+    const auto takeSeen = [&seen] { return std::exchange(seen, QStringList()).value(0); };
+    QPalette palette;
+    palette.setColor(QPalette::Text, QColor(1, 2, 3));
+    view.setPalette(palette);
+    QCOMPARE(takeSeen(), QStringLiteral("enabled 1 visible 0 text #010203"));
+    view.setEnabled(false);
+    QCOMPARE(takeSeen(), QStringLiteral("enabled 0 visible 0 text #010203"));
+    view.setVisible(true);
+    QCOMPARE(takeSeen(), QStringLiteral("enabled 0 visible 1 text #010203"));
+    view.setVisible(false);
+    QCOMPARE(takeSeen(), QStringLiteral("enabled 0 visible 0 text #010203"));
+    widget->changed = [] {};
 }
 
 void tst_FxUIBaseViewState::disabledIsTheOpposite()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void textGoesToThePaletteOfTheWidget();
     void alternateBaseGoesToTheBorder();
     void paletteAppliesBackgroundTextAndBorder();
+    void paletteAppliesItsRolesInTheirOrder();
     void paletteWithoutTheThreeBrushesChangesNothing();
     void brushIsTakenFromTheCurrentGroup();
     void alphaOfAColorIsDropped();
@@ -214,6 +215,34 @@ void tst_FxUIBaseViewStyle::paletteAppliesBackgroundTextAndBorder()
     QCOMPARE(styled.Sheet(),
              QStringLiteral("QWidget { background-color: #010203;border-color: #070809;}"));
     QCOMPARE(styled.view.Widget()->palette().color(QPalette::Text), QColor(4, 5, 6));
+}
+
+void tst_FxUIBaseViewStyle::paletteAppliesItsRolesInTheirOrder()
+{
+    class Recording : public QWidget {
+    public:
+        QString sheetWithTheText;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (palette().color(QPalette::Text) == QColor(4, 5, 6) && sheetWithTheText.isNull())
+                sheetWithTheText = styleSheet();
+            QWidget::changeEvent(event);
+        }
+    };
+
+    ViewProbe view;
+    auto *widget = new Recording;
+    view.Take(widget);
+    QPalette palette = WithBrush(QPalette::AlternateBase, QColor(7, 8, 9));
+    palette.setBrush(QPalette::Text, QColor(4, 5, 6));
+    palette.setBrush(QPalette::Base, QColor(1, 2, 3));
+    view.setPalette(palette);
+    // The text comes behind the background and in front of the border.
+    QCOMPARE(widget->sheetWithTheText, QStringLiteral("background-color: #010203;"));
+    QCOMPARE(widget->styleSheet(),
+             QStringLiteral("background-color: #010203;border-color: #070809;"));
 }
 
 void tst_FxUIBaseViewStyle::paletteWithoutTheThreeBrushesChangesNothing()
