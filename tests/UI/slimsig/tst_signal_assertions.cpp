@@ -53,6 +53,16 @@ TEST(SignalAssertionsDeathTest, ADisconnectBesideASlotConnectedEmptyEndsTheProce
         "signal_base\\w*\\.h:[0-9]+: .*Assertion `m_size == pending\\.size\\(\\)' failed\\.");
 }
 
+TEST(SignalAssertionsDeathTest, ADisconnectOutsideAnEmissionDoesSoAtTheNextOne)
+{
+    VoidProbe signal;
+    signal.connect(nullptr);
+    auto connection = signal.connect([] {});
+    connection.disconnect();
+    EXPECT_EQ(signal.num_slots(), 1u);
+    EXPECT_DEATH(signal.emit(), "Assertion `m_size == pending\\.size\\(\\)' failed\\.");
+}
+
 TEST(SignalAssertionsDeathTest, ACountWithoutRecordsEndsTheProcess)
 {
     VoidProbe signal;

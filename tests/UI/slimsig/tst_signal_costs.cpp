@@ -254,4 +254,34 @@ TEST(SignalCosts, ArgumentsAreCopiedJustAsOftenOnceTheArrayHasMoved)
     EXPECT_EQ(Counted::copies, 2);
 }
 
+TEST(SignalCosts, ArgumentsAreCopiedJustAsOftenBehindADeadPrefix)
+{
+    SignalProbe<void(Counted)> signal;
+    int copies = 0;
+    bool replaced = false;
+    signal.connect([&](const Counted &) {
+        if (std::exchange(replaced, true))
+            return;
+        signal.disconnect_all_slots();
+        for (int i = 0; i < 3; ++i)
+            signal.connect([](const Counted &) {});
+        Counted::reset();
+        signal.emit(Counted());
+        copies = Counted::copies;
+    });
+    signal.connect([](const Counted &) {});
+    signal.emit(Counted());
+    EXPECT_EQ(copies, 2);
+}
+
+TEST(SignalCosts, TheHolderIsOneAllocationWithItsCounts)
+{
+    VoidProbe signal;
+    const std::size_t before = allocations;
+    signal.prepare_connection();
+    EXPECT_EQ(allocations - before, 1u);
+    signal.prepare_connection();
+    EXPECT_EQ(allocations - before, 1u);
+}
+
 } // namespace

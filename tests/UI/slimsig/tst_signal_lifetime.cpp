@@ -202,6 +202,20 @@ TEST(SignalLifetime, TheSlotsOfADestroyedSignalEndFirstToLast)
     EXPECT_EQ(ends, "abc");
 }
 
+TEST(SignalLifetime, DestructionLooksNeitherAtDepthNorAtRunning)
+{
+    std::string ends;
+    std::optional<VoidProbe> signal(std::in_place);
+    Connection first = signal->connect(slotEndingWith([&ends] { ends += 'a'; }));
+    signal->connect(slotEndingWith([&ends] { ends += 'b'; }));
+    signal->depth = 2;
+    signal->pending[0].running = true;
+    signal.reset();
+    EXPECT_EQ(ends, "ab");
+    EXPECT_FALSE(first.connected());
+    first.disconnect();
+}
+
 TEST(SignalLifetime, DisconnectedCallablesEndFirstToLastInTheCleanUp)
 {
     VoidProbe signal;
