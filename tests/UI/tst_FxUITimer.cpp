@@ -55,6 +55,7 @@ private Q_SLOTS:
     void destroyedQtTimerLeavesTheFlagToItself();
     void deletedWhileRunningDoesNotFire();
     void destructionDeletesTheTimerAtOnce();
+    void implementationHasTheSameOperations();
     void singleShotRunsFromTheEventLoop();
     void singleShotKeepsACopyUntilItHasRun();
     void singleShotRunsInTheThreadThatAsked();
@@ -236,6 +237,30 @@ void tst_FxUITimer::destructionDeletesTheTimerAtOnce()
     const QPointer<QObject> handle(timer->getHandle());
     timer.reset();
     QVERIFY(!handle);
+}
+
+void tst_FxUITimer::implementationHasTheSameOperations()
+{
+    CFxUITimer timer;
+    auto *impl = static_cast<CFxUITimerImpl *>(timer.impl);
+    QCOMPARE(&impl->timeout(), &timer.timeout());
+    impl->start(5000);
+    QVERIFY(impl->isActive());
+    QVERIFY(timer.isActive());
+    QCOMPARE(QtTimer(timer)->interval(), 5000);
+    impl->stop();
+    QVERIFY(!timer.isActive());
+    QVERIFY(!QtTimer(timer)->isActive());
+    impl->StartImpl(6000);
+    QVERIFY(QtTimer(timer)->isActive());
+    QVERIFY(!timer.isActive()); // the Qt half writes no state
+    impl->StopImpl();
+    QVERIFY(!QtTimer(timer)->isActive());
+    int calls = 0;
+    CFxUITimerImpl::singleShot(0, [&calls] { ++calls; });
+    CFxUITimerImpl::SingleShotImpl(0, [&calls] { ++calls; });
+    QCOMPARE(calls, 0);
+    QTRY_COMPARE(calls, 2);
 }
 
 void tst_FxUITimer::singleShotRunsFromTheEventLoop()
