@@ -152,6 +152,14 @@ private Q_SLOTS:
 
     void childrenGoWithTheContainer();
 
+    void childDeletedFirstLeavesTheContainer_data() { AddContainers(); }
+
+    void childDeletedFirstLeavesTheContainer();
+
+    void containerOutlivesItsWidget_data() { AddContainers(); }
+
+    void containerOutlivesItsWidget();
+
 private:
     static void AddContainers();
 };
@@ -323,6 +331,46 @@ void tst_Containers::childrenGoWithTheContainer()
     view.reset();
     FlushDeferredDeletes();
     QVERIFY(!widget);
+}
+
+// The child's widget stays in its place until the event loop next runs.
+void tst_Containers::childDeletedFirstLeavesTheContainer()
+{
+    QFETCH(Container, container);
+    const std::unique_ptr<CFxUIBaseView> view(container.make());
+    CFxUILabel *child = NewChild();
+    const QPointer<QWidget> widget(Widget(child));
+    view->addView(child);
+    delete child;
+    QVERIFY(view->children().isEmpty());
+    QVERIFY(widget);
+    FlushDeferredDeletes();
+    QVERIFY(!widget);
+    CFxUILabel *next = NewChild();
+    view->addView(next);
+    QCOMPARE(view->children(), QList<CFxUIObject *> { next });
+    QCOMPARE(Holds(view.get(), next), bool(container.traits & AddsWidgets));
+    if (const QBoxLayout *layout = QtLayout(view.get()))
+        QCOMPARE(layout->count(), 1);
+}
+
+// A host that deletes the widget takes the placed children's widgets with it, and no more.
+void tst_Containers::containerOutlivesItsWidget()
+{
+    QFETCH(Container, container);
+    const std::unique_ptr<CFxUIBaseView> view(container.make());
+    CFxUILabel *child = NewChild();
+    view->addView(child);
+    const bool places = container.traits & AddsWidgets;
+    delete view->getHandle();
+    QVERIFY(!view->getHandle());
+    QCOMPARE(child->getHandle() == nullptr, places);
+    view->insertView(NewChild(), 0);
+    view->addView(NewChild());
+    QCOMPARE(view->children().size(), 3);
+    view->removeView(child);
+    const std::unique_ptr<CFxUIBaseView> removed(child);
+    QCOMPARE(view->children().size(), 2);
 }
 
 int main(int argc, char **argv)

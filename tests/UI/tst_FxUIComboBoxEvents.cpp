@@ -98,6 +98,7 @@ private Q_SLOTS:
     void removalOfTheCurrentItemAtTheEndIsReported();
     void removalOfTheOnlyItemKeepsIndexAndText();
     void clearKeepsIndexAndText();
+    void clearEmptiesTheItemsBeforeTheWidget();
     void firstItemAfterClearAtIndex0IsSilentAndTheTextStays();
     void firstItemAfterClearAtAnotherIndexIsReported();
     void blockedBoxFollowsInSilence();
@@ -329,6 +330,16 @@ void tst_FxUIComboBoxEvents::clearKeepsIndexAndText()
     watched.box.clear();
     QCOMPARE(watched.log.Take(), Lines({ "Qt.currentIndexChanged(-1) 1 'b' widget -1 ''" }));
     QCOMPARE(watched.box.count(), 0);
+}
+
+void tst_FxUIComboBoxEvents::clearEmptiesTheItemsBeforeTheWidget()
+{
+    WatchedABC watched;
+    QList<int> counts;
+    connect(Widget(watched.box), qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [&] { counts.append(watched.box.count()); });
+    watched.box.clear();
+    QCOMPARE(counts, QList<int> { 0 });
 }
 
 void tst_FxUIComboBoxEvents::firstItemAfterClearAtIndex0IsSilentAndTheTextStays()

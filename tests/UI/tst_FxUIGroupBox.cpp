@@ -114,6 +114,7 @@ private Q_SLOTS:
     void blockedBoxCollapsesInSilence();
     void slotThatOpensTheBoxAgain();
     void handlerUpdatesTheParentAlsoWithoutAChange();
+    void usersActionsReachNothing();
     void collapsingChangesNothingOnTheScreen();
     void settersWithoutHandleKeepTheState();
 };
@@ -193,6 +194,7 @@ void tst_FxUIGroupBox::insertViewPutsTheChildAtTheIndex_data()
     QTest::newRow("front") << 0 << 0;
     QTest::newRow("between") << 1 << 1;
     QTest::newRow("negative means the end") << -1 << 2;
+    QTest::newRow("far behind the end") << 99 << 2;
 }
 
 void tst_FxUIGroupBox::insertViewPutsTheChildAtTheIndex()
@@ -351,6 +353,24 @@ void tst_FxUIGroupBox::handlerUpdatesTheParentAlsoWithoutAChange()
     Impl(*watched.box)->OnCollapsedStateChanged(true);
     QCOMPARE(watched.log.Take(),
              Lines({ "parent.update() open", "onCollapsedStateChanged(true) collapsed" }));
+}
+
+void tst_FxUIGroupBox::usersActionsReachNothing()
+{
+    Watched watched;
+    watched.box->setTitle(QStringLiteral("Units"));
+    watched.box->setVisible(true);
+    CFxUIGroupBoxFrontend *widget = Frontend(*watched.box);
+    watched.log.ListenToQt("Qt.clicked", widget, &QGroupBox::clicked);
+    watched.log.ListenToQt("Qt.toggled", widget, &QGroupBox::toggled);
+    const QPoint title(20, 5);
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, title);
+    QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, title);
+    QCOMPARE(watched.log.Take(), QStringList());
+    QTest::keyClick(widget, Qt::Key_Space); // Qt reports it, though the box can't be checked
+    QCOMPARE(watched.log.Take(), Lines({ "Qt.clicked(true) open" }));
+    QVERIFY(!watched.box->isCollapsed());
+    watched.box->setVisible(false);
 }
 
 void tst_FxUIGroupBox::collapsingChangesNothingOnTheScreen()

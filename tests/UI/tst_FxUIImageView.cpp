@@ -2,14 +2,19 @@
 
 #include "UI/FxUIImageView.h"
 
+#include "support/Events.h"
 #include "support/TestMain.h"
 #include "UI/FxUIEvent.h"
+#include "UI/FxUIVerticalLayout.h"
 #include "UI/Impl/FxUIImageViewImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtTest/QTest>
+#include <QtWidgets/QWidget>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <type_traits>
 
@@ -94,6 +99,7 @@ private Q_SLOTS:
     void setPixmapPaintsNothing();
     void pixmapIsTheAddressOfTheStoredOne();
     void pixmapIsStretchedToTheView();
+    void pixmapIsDrawnAtTheOriginInTheSizeOfTheRectangle();
     void nullPixmapDrawsNothing();
     void painterIsOpenDuringPaintEventOnly();
     void paintEventFromOutsideDoesNothing();
@@ -101,6 +107,9 @@ private Q_SLOTS:
     void updateFromInsideAPaintingDoesNothing();
     void exceptionFromAPaintingClosesThePainter();
     void negativeSizeGoesToQt();
+    void sizeChangeUpdatesThroughTheVirtualOperation();
+    void hostsWidgetIsNotUpdatedAndGoesWithTheEventLoop();
+    void deletionInEitherOrderWithALayout();
 };
 
 void tst_FxUIImageView::hasNoHandle()
@@ -268,6 +277,31 @@ void tst_FxUIImageView::pixmapIsStretchedToTheView()
     }
 }
 
+void tst_FxUIImageView::pixmapIsDrawnAtTheOriginInTheSizeOfTheRectangle()
+{
+    class ShiftedView : public CFxUIImageView {
+    public:
+        void paintEvent(CFxUIPaintEvent *event) override
+        {
+            GetPainter()->fillRect(event->rect(), Qt::yellow);
+            CFxUIPaintEvent shifted(QRect(3, 2, 4, 4));
+            CFxUIImageView::paintEvent(&shifted);
+        }
+    };
+
+    ShiftedView view;
+    view.setPixmap(TwoColors(10, 10));
+    view.resize(8, 8);
+    view.update();
+    QImage expected(8, 8, QImage::Format_ARGB32);
+    expected.fill(Qt::yellow);
+    QPainter painter(&expected);
+    painter.fillRect(0, 0, 2, 4, Qt::red);
+    painter.fillRect(2, 0, 2, 4, Qt::green);
+    painter.end();
+    QCOMPARE(Probe::Image(view), expected);
+}
+
 void tst_FxUIImageView::nullPixmapDrawsNothing()
 {
     class ClearedView : public CFxUIImageView {
@@ -368,6 +402,82 @@ void tst_FxUIImageView::negativeSizeGoesToQt()
     QCOMPARE(view.paintings, 1);
     QVERIFY(!view.active);
     QVERIFY(Probe::Image(view).isNull());
+}
+
+void tst_FxUIImageView::sizeChangeUpdatesThroughTheVirtualOperation()
+{
+    class CountingImpl : public CFxUIImageViewImpl {
+    public:
+        using CFxUIImageViewImpl::CFxUIImageViewImpl;
+
+        void UpdateImpl() override
+        {
+            ++updates;
+            size = QSize(width(), height());
+        }
+
+        int updates = 0;
+        QSize size;
+    };
+
+    PaintingView view;
+    CountingImpl impl(&view);
+    impl.OnSizeChanged(20, 10);
+    QCOMPARE(impl.updates, 1);
+    QCOMPARE(impl.size, QSize(20, 10)); // stored before
+    QCOMPARE(view.paintings, 0);
+}
+
+void tst_FxUIImageView::hostsWidgetIsNotUpdatedAndGoesWithTheEventLoop()
+{
+    class UpdateCounter : public QObject {
+    public:
+        int updates = 0;
+
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            updates += event->type() == QEvent::UpdateRequest ? 1 : 0;
+            return false;
+        }
+    };
+
+    const QPointer<QWidget> canvas(new QWidget);
+    auto view = std::make_unique<PaintingView>();
+    view->setHandle(canvas);
+    canvas->setAttribute(Qt::WA_DontShowOnScreen); // else an X server may ask for repaints, too
+    view->setVisible(true);
+    UpdateCounter counter;
+    canvas->installEventFilter(&counter);
+    const auto updatesSince = [&counter](int since) {
+        QCoreApplication::processEvents();
+        return counter.updates - since;
+    };
+    QTRY_COMPARE(updatesSince(counter.updates), 0); // the first showing is over
+    const int before = counter.updates;
+    view->resize(8, 8);
+    view->update();
+    QCOMPARE(view->paintings, 1);
+    QCOMPARE(updatesSince(before), 0);
+    view.reset();
+    QVERIFY(canvas);
+    FlushDeferredDeletes();
+    QVERIFY(!canvas);
+}
+
+void tst_FxUIImageView::deletionInEitherOrderWithALayout()
+{
+    auto layout = std::make_unique<CFxUIVerticalLayout>();
+    auto *view = new CFxUIImageView;
+    layout->addView(view);
+    QCOMPARE(view->parent(), layout.get());
+    view->setPixmap(TwoColors(4, 4));
+    view->resize(8, 8);
+    view->update();
+    delete view;
+    QVERIFY(layout->children().isEmpty());
+    layout->addView(new CFxUIImageView);
+    layout.reset();
+    FlushDeferredDeletes();
 }
 
 int main(int argc, char **argv)

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void addTabWithoutHandleKeepsTheRecord();
     void addViewMakesAChildAndNoTab();
     void indexOfAnUnknownViewIsTheNumberOfPages();
+    void pageAddedTwiceIsListedTwiceAndFoundAtTheLowerIndex();
     void setTabTextWritesTitleAndTab();
     void setTabTextOutOfRangeChangesNothing_data();
     void setTabTextOutOfRangeChangesNothing();
@@ -212,6 +213,22 @@ void tst_FxUIStackedWidget::indexOfAnUnknownViewIsTheNumberOfPages()
     AddPages(stack, 3);
     QCOMPARE(stack.indexOf(&unknown), 3);
     QCOMPARE(stack.indexOf(nullptr), 3);
+}
+
+void tst_FxUIStackedWidget::pageAddedTwiceIsListedTwiceAndFoundAtTheLowerIndex()
+{
+    CFxUIStackedWidget stack;
+    AddPages(stack, 1);
+    auto *page = new CFxUILabel;
+    QCOMPARE(stack.addTab(page, One), 1);
+    QCOMPARE(stack.addTab(page, Two),
+             Widget(stack)->indexOf(qobject_cast<QWidget *>(page->getHandle())));
+    QCOMPARE(stack.indexOf(page), 1);
+    QCOMPARE(Probe::Titles(stack), QVector<QString>({ QStringLiteral("0"), One, Two }));
+    QCOMPARE(stack.children().size(), 2);
+    // Qt moves the tab, of which there is one for each widget.
+    QCOMPARE(Widget(stack)->count(), 2);
+    QCOMPARE(Widget(stack)->tabText(1), Two);
 }
 
 void tst_FxUIStackedWidget::setTabTextWritesTitleAndTab()

@@ -4,7 +4,12 @@
 #include "UI/FxUIBaseView.h"
 #include "UI/FxUIVerticalLayout.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
+#include <QtGui/QEnterEvent>
+#include <QtGui/QFocusEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
@@ -90,6 +95,69 @@ template <class Make> void WidgetGoesWithTheEventLoop(Make make)
     QVERIFY(!widget);
 }
 
+// Counts the events that reach a widget while its view is gone.
+class LateEvents : public QObject {
+public:
+    bool viewIsGone = false;
+    QList<QEvent::Type> types;
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (viewIsGone)
+            types.append(event->type());
+        return false;
+    }
+};
+
+// What a user's hand would send, and what Qt asks of a widget, in the order of posting.
+inline void PostEventsOfAllKinds(QWidget *widget)
+{
+    const QPointF middle = QRectF(widget->rect()).center();
+    const auto post = [widget](QEvent *event) { QCoreApplication::postEvent(widget, event); };
+    const auto postMouse = [&](QEvent::Type type, Qt::MouseButtons buttons) {
+        post(new QMouseEvent(type, middle, widget->mapToGlobal(middle.toPoint()), Qt::LeftButton,
+                             buttons, Qt::NoModifier));
+    };
+    post(new QEnterEvent(middle, middle, middle));
+    post(new QFocusEvent(QEvent::FocusIn));
+    postMouse(QEvent::MouseButtonPress, Qt::LeftButton);
+    postMouse(QEvent::MouseButtonRelease, Qt::NoButton);
+    for (const int key : { Qt::Key_Space, Qt::Key_Down, Qt::Key_X, Qt::Key_Return }) {
+        post(new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("x")));
+        post(new QKeyEvent(QEvent::KeyRelease, key, Qt::NoModifier));
+    }
+    post(new QFocusEvent(QEvent::FocusOut));
+    post(new QEvent(QEvent::Leave));
+    post(new QEvent(QEvent::UpdateRequest));
+    post(new QEvent(QEvent::LayoutRequest));
+}
+
+// The widget gets what was posted to it although the view is gone by then: none of it may reach
+// what has been deleted.
+template <class Make> void DeletionFromTheEventLoopBeforePostedEvents(Make make)
+{
+    CFxUIBaseView *view = make();
+    const QPointer<QWidget> widget(static_cast<QWidget *>(view->getHandle()));
+    view->setVisible(true);
+    LateEvents late;
+    widget->installEventFilter(&late);
+    QMetaObject::invokeMethod(
+        qApp,
+        [&late, view] {
+            delete view;
+            late.viewIsGone = true;
+        },
+        Qt::QueuedConnection);
+    PostEventsOfAllKinds(widget);
+    QCoreApplication::processEvents();
+    for (const QEvent::Type type :
+         { QEvent::Enter, QEvent::FocusIn, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+           QEvent::KeyPress, QEvent::KeyRelease, QEvent::FocusOut, QEvent::Leave })
+        QVERIFY2(late.types.contains(type), qPrintable(QString::number(type)));
+    FlushDeferredDeletes();
+    QVERIFY(!widget);
+}
+
 template <class Make> void DeletionInEitherOrder(Make make)
 {
     {
@@ -123,10 +191,12 @@ template <class Make> void DeletionInEitherOrder(Make make)
 template <class Make> void ControlContract(Make make)
 {
     using namespace ControlContractParts;
-    void (*const parts[])(
-        Make) = { HandleAfterConstruction<Make>,    StateKeptWithoutHandle<Make>,
-                  ForeignHandleIsLeftAlone<Make>,   SilentButCurrentWhileBlocked<Make>,
-                  WidgetGoesWithTheEventLoop<Make>, DeletionInEitherOrder<Make> };
+    void (*const parts[])(Make) = {
+        HandleAfterConstruction<Make>,    StateKeptWithoutHandle<Make>,
+        ForeignHandleIsLeftAlone<Make>,   SilentButCurrentWhileBlocked<Make>,
+        WidgetGoesWithTheEventLoop<Make>, DeletionFromTheEventLoopBeforePostedEvents<Make>,
+        DeletionInEitherOrder<Make>
+    };
     for (auto part : parts) {
         part(make);
         if (QTest::currentTestFailed())
