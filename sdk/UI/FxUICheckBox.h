@@ -17,6 +17,7 @@ public:
     CFxUICheckBox();
     ~CFxUICheckBox() override;
 
+    /// Stores the text and shows it (QAbstractButton::setText).
     void setText(const QString &text);
 
     /// Returns the last text set. Default: empty.

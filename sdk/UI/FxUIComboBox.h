@@ -91,6 +91,8 @@ public:
 
     /// Default: false.
     bool isEditable() const;
+
+    /// QComboBox::setEditable. No signal follows.
     void setEditable(bool editable);
 
     /// Returns the text of the item that became current last, or the text set since. Default:

@@ -18,6 +18,7 @@ public:
     CFxUIGroupBox();
     ~CFxUIGroupBox() override;
 
+    /// Stores the title and shows it (QGroupBox::setTitle).
     void setTitle(const QString &title);
 
     /// Returns the last title set. Default: empty.

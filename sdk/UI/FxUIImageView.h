@@ -6,7 +6,8 @@ class QPainter;
 class QPixmap;
 
 /// Draws into an off-screen image. update() makes a fresh image of the recorded size and calls
-/// paintEvent(), which paints on it through GetPainter().
+/// paintEvent(), which paints on it through GetPainter(). With a width or height of 0 it does
+/// nothing.
 ///
 /// There is no widget: getHandle() is null, and nothing comes on the screen by itself. An override
 /// of paintEvent() can take the image from GetPainter()->device().
@@ -15,8 +16,9 @@ public:
     CFxUIImageView();
     ~CFxUIImageView() override;
 
-    /// Draws the pixmap, stretched to the rectangle of \a event whatever its proportions. A null
-    /// pixmap draws nothing. Does nothing outside update(), where there is no painter.
+    /// Draws the pixmap from the image's upper left corner on, stretched to the size of the
+    /// rectangle of \a event whatever its proportions (QPainter::drawPixmap). A null pixmap draws
+    /// nothing. Does nothing outside update(), where there is no painter.
     void paintEvent(CFxUIPaintEvent *event) override;
 
     /// Returns the address of the stored pixmap; never null. Default: a null pixmap.

@@ -19,6 +19,8 @@ public:
 
     /// Returns the last text set. Default: empty.
     const QString &text() const;
+
+    /// Stores the text and shows it (QAbstractButton::setText).
     void setText(const QString &text);
 
     /// Checks or unchecks the widget (QAbstractButton::setChecked), each time, and emits toggled()

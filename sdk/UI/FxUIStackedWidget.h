@@ -24,27 +24,30 @@ public:
     /// Returns the page's index, or the number of pages for a view that is none.
     int indexOf(CFxUIBaseView *view) const;
 
-    /// Does nothing for an index out of range.
+    /// Changes the title (QTabWidget::setTabText). Does nothing for an index out of range.
     void setTabText(int index, const QString &text);
 
-    /// Returns the last setCurrentIndex() in range. Default: 0, also without pages.
+    /// Returns the last setCurrentIndex() in range, or what the host has told one of the handlers
+    /// of CFxUIStackedWidgetImpl since. Default: 0, also without pages.
     int currentIndex() const;
 
-    /// Turns the page, also if \a index is current already, and then emits currentChanged() if it
-    /// wasn't. Does nothing for an index out of range.
+    /// Turns the page (QTabWidget::setCurrentIndex), also if \a index is current already, and then
+    /// emits currentChanged() if it wasn't. Does nothing for an index out of range.
     void setCurrentIndex(int index);
 
     /// Does nothing for a view that is no page.
     void setCurrentWidget(CFxUIBaseView *view);
 
-    /// Emitted by setCurrentIndex() with the new index, never by a user's click.
+    /// Emitted with the new index by setCurrentIndex() and by the handlers OnPageActivated() and
+    /// OnTabClickedActivated() of CFxUIStackedWidgetImpl, which the host may call. Never by a
+    /// user's click.
     CFxUISignal<void(int)> &currentChanged();
 
     /// Never emitted.
     CFxUISignal<void(int)> &tabCloseRequested();
 
-    /// Emitted by CFxUIStackedWidgetImpl::OnTabClickedActivated() alone, which the host may call:
-    /// with the new index, and currentChanged() follows.
+    /// Emitted by OnTabClickedActivated() alone, with the new index. currentChanged() follows with
+    /// the index that is current by then.
     CFxUISignal<void(int)> &tabBarClicked();
 
     /// Never emitted.
