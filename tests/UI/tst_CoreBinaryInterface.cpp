@@ -1,6 +1,7 @@
 // The order of virtual operations and of fields in the classes that hosts derive from: a change
 // here breaks programs that were compiled before it.
 
+#include "support/BinaryInterface.h"
 #include "support/TestMain.h"
 #include "UI/FxUIBaseView.h"
 #include "UI/FxUIEmitScope.h"
@@ -15,10 +16,6 @@
 
 #include <QtTest/QTest>
 
-#include <algorithm>
-#include <cstdint>
-#include <cstring>
-#include <functional>
 #include <type_traits>
 
 static_assert(sizeof(CFxUIObject) == 3 * sizeof(void *), "table, impl, data");
@@ -32,30 +29,6 @@ static_assert(!std::is_polymorphic_v<CFxUIFrontendBase<CFxUIBaseViewImpl>>);
 static_assert(!std::is_polymorphic_v<CFxUIObjectData>);
 
 namespace {
-
-// A position in the table of virtual functions. The two forms of the destructor stand at 0 and 1.
-// By the C++ ABI of the platform a pointer to a virtual member holds its offset in the table, plus
-// 1 on most processors.
-template <class Operation> int Position(Operation operation)
-{
-    static_assert(std::is_member_function_pointer_v<Operation>);
-    std::uintptr_t offset = 0;
-    std::memcpy(&offset, &operation, sizeof offset);
-    return static_cast<int>(offset / sizeof(void *));
-}
-
-// Where the first virtual operation of a deriving class comes to stand: behind all of the base's.
-template <class Base> class Derived : public Base {
-public:
-    using Base::Base;
-
-    virtual void Next() { }
-};
-
-template <class Base> int PositionBehind()
-{
-    return Position(&Derived<Base>::Next);
-}
 
 class DataProbe : public CFxUIObjectData {
 public:
@@ -117,11 +90,6 @@ public:
 
     QVector<const void *> Fields() const { return { &m_type, &m_reason }; }
 };
-
-bool IsInOrder(const QVector<const void *> &fields)
-{
-    return std::is_sorted(fields.begin(), fields.end(), std::less_equal<>());
-}
 
 } // namespace
 
