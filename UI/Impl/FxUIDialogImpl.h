@@ -6,6 +6,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QString>
 
+#include <memory>
+
 class CFxUIHideEvent;
 class CFxUIShowEvent;
 class CFxUIVerticalLayout;
@@ -79,4 +81,5 @@ protected:
     CFxUISignal<void()> m_rejected; ///< emitted by OnRejected() and OnRejectPressed()
     CFxUISignal<void(int)> m_finished; ///< never emitted
     QPointer<QObject> m_frontend; // the host may have taken the handle away
+    std::shared_ptr<void> m_alive = std::make_shared<bool>(true); // ends with this object
 };

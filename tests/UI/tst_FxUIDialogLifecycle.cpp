@@ -106,6 +106,7 @@ private Q_SLOTS:
     void runAfterClosingByQt();
     void showingAfterARunShowsTheContent();
     void virtualOperationsOfTheWindowAreCalled();
+    void resultOfAHostsWindowWithoutAWayBackIsStored();
     void runWithoutAWindowAnswersTheResult();
     void operationsWithoutAWindowKeepTheState();
 };
@@ -316,6 +317,17 @@ void tst_FxUIDialogLifecycle::virtualOperationsOfTheWindowAreCalled()
     QCOMPARE(window.calls,
              QStringList({ QStringLiteral("exec"), QStringLiteral("show"), QStringLiteral("hide"),
                            QStringLiteral("hide") }));
+    dialog.setHandle(own.get());
+}
+
+void tst_FxUIDialogLifecycle::resultOfAHostsWindowWithoutAWayBackIsStored()
+{
+    TestDialog dialog;
+    const std::unique_ptr<CFxUIDialogFrontend> own(Window(dialog));
+    HostWindow window;
+    dialog.setHandle(&window);
+    QCOMPARE(dialog.exec(), 77);
+    QCOMPARE(dialog.result(), 77);
     dialog.setHandle(own.get());
 }
 

@@ -8,7 +8,6 @@
 #include "UI/Impl/qt/frontend/FxUIDialogFrontend.h"
 #include "UI/Impl/qt/FrontendCast.h"
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -38,6 +37,7 @@ void CFxUIDialogImpl::DestroyFrontendDialogImpl()
     if (auto *dialog = qobject_cast<CFxUIDialogFrontend *>(m_frontend.data()))
         dialog->impl = nullptr;
     if (auto *dialog = FrontendCast<CFxUIDialogFrontend>(owner)) {
+        dialog->impl = nullptr; // a host may have set another window
         dialog->setParent(nullptr);
         dialog->hide(); // without a parent before, setParent() hasn't done it
     }
@@ -72,13 +72,12 @@ void CFxUIDialogImpl::SetupUIImpl(QObject * /*parent*/)
 int CFxUIDialogImpl::ExecImpl(bool /*modal*/)
 {
     SetupUIImpl(nullptr);
-    const QPointer<CFxUIDialogFrontend> dialog = FrontendCast<CFxUIDialogFrontend>(owner);
+    auto *dialog = FrontendCast<CFxUIDialogFrontend>(owner);
     if (!dialog)
         return m_result;
+    const std::weak_ptr<void> self = m_alive;
     const int code = dialog->exec();
-    // A window without its way back says that this object is gone, and one that is gone itself
-    // can't say.
-    if (dialog && dialog->impl == this)
+    if (!self.expired()) // a slot may have destroyed the dialog, against the rules
         setResult(code);
     return code;
 }
