@@ -164,6 +164,11 @@ Steps &Steps::Read(int count)
     return Add({ QStringLiteral("read"), count });
 }
 
+Steps &Steps::Frames(int type)
+{
+    return Add({ QStringLiteral("frames"), type });
+}
+
 Steps &Steps::Upgrade()
 {
     return Send("HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\n"
@@ -188,6 +193,13 @@ Steps &Steps::Close()
 Steps &Steps::Reset()
 {
     return Add({ QStringLiteral("reset") });
+}
+
+Steps &Steps::Append(const Steps &more)
+{
+    for (const auto &step : more.m_steps)
+        m_steps.append(step);
+    return *this;
 }
 
 QString Steps::Path() const

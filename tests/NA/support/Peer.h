@@ -76,11 +76,13 @@ public:
     Steps &Drip(const QByteArray &bytes, double seconds);
     Steps &Endless(const QByteArray &bytes);
     Steps &Read(int count);
+    Steps &Frames(int type); ///< HTTP/2 frames, up to one of this type
     Steps &Upgrade(); ///< a WebSocket's handshake as it should be
     Steps &Echo();
     Steps &Hang();
     Steps &Close();
     Steps &Reset();
+    Steps &Append(const Steps &more);
 
     /// The path that asks for these steps.
     QString Path() const;

@@ -10,6 +10,7 @@ Prints its port. Each request's path is "/" and base64url of a JSON list of step
     ["endless", text]         the text again and again, until the client goes; not as fast as it
                               can, which no client would survive
     ["read", count]           so many bytes of the request's body
+    ["frames", type]          the client's HTTP/2 frames, up to one of this type
     ["echo"]                  the request as it came, as the body of a good answer
     ["hang"]                  waits until the client goes
     ["close"], ["reset"]      ends the connection in order, or with RST
@@ -91,6 +92,13 @@ class Connection:
 
     def do_read(self, _head, count):
         self.take(count)
+
+    def do_frames(self, _head, last):
+        kind = None
+        while kind != last:
+            frame = self.take(9)
+            kind = frame[3]
+            self.take(int.from_bytes(frame[:3], "big"))
 
     def do_echo(self, head):
         length = next((int(line.split(b":", 1)[1]) for line in head.split(b"\r\n")
