@@ -119,12 +119,8 @@ protected:
 
         [[gnu::always_inline]] ~emit_scope()
         {
-            if (--signal.depth != 0)
-                return;
-            if (signal.m_size == signal.pending.size())
-                signal.m_offset = 0;
-            else
-                signal.clean_up();
+            if (--signal.depth == 0)
+                signal.tidy_up();
         }
 
     private:
@@ -145,7 +141,7 @@ protected:
     slot_id prepare_connection()
     {
         if (!holder)
-            holder = std::make_shared<storage_holder>(this);
+            make_holder();
         detail::verify(
             last_id < std::numeric_limits<slot_id>::max() - 1,
             "last_id < std::numeric_limits<slot_id>::max() - 1 && \"All available slot ids "
@@ -174,6 +170,29 @@ private:
         }
 
         std::forward_list<slot_array> outgrown;
+    };
+
+    /// Does what emit_scope does, for an emission that is known not to run inside another. It
+    /// writes the depth without reading it, so that one emission need not wait for the last.
+    class outermost_scope {
+    public:
+        explicit outermost_scope(signal_base &emitted) noexcept
+            : signal(emitted)
+        {
+            signal.depth = 1;
+        }
+
+        outermost_scope(const outermost_scope &) = delete;
+        outermost_scope &operator=(const outermost_scope &) = delete;
+
+        [[gnu::always_inline]] ~outermost_scope()
+        {
+            signal.depth = 0;
+            signal.tidy_up();
+        }
+
+    private:
+        signal_base &signal;
     };
 
     /// How emit() hands an argument on: what fits a register by value, anything else by reference.
@@ -229,6 +248,7 @@ private:
     void emit_unless_idle(Args &...args);
     void check_empty();
     void call_slots(handed<Args>... args);
+    void call_only_slot(handed<Args>... args);
     template <class... Passed>
     void call_slot(slot_type *first, slot_type *slot, Passed &&...passed);
     void call_behind_offset(handed<Args>... args);
@@ -237,6 +257,7 @@ private:
     void call_by_index(size_type next, size_type end, handed<Args>... args);
     void leave_moved(const slot_type *first, const slot_type *slot) noexcept;
 
+    void make_holder();
     connection append(function_type &&function);
     connection connect_growing(function_type &&function);
     bool mostly_dead() const noexcept;
@@ -248,6 +269,14 @@ private:
     bool is_connected(slot_id id) noexcept;
     void disconnect_slot(slot_id id);
     void abandon() noexcept;
+
+    void tidy_up() noexcept
+    {
+        if (m_size == pending.size())
+            m_offset = 0;
+        else
+            clean_up();
+    }
 
     bool stands_at(const slot_type *first) const noexcept
     {
