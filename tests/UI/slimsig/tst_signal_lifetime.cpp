@@ -289,8 +289,8 @@ TEST(SignalLifetime, OutgrownCallablesMayComeBackToTheSignalAtTheirEnd)
         }
     };
 
-    VoidProbe signal;
     int budget = 0;
+    VoidProbe signal;
     signal.connect(Returning(&signal, &budget));
     budget = 50;
     signal.connect([] {});
