@@ -54,6 +54,7 @@ private Q_SLOTS:
     void foreignHandleIsLeftAlone();
     void genericPathMakesNoFrontend();
     void destructionReleasesTheWidgetLater();
+    void widgetIsReleasedBeforeTheChildrenDie();
     void destructionAsksForTheClassNameOnlyForAHandle();
     void destructionLeavesAForeignHandle();
     void viewOverAWidgetWithoutImplementationReleasesIt();
@@ -360,6 +361,23 @@ void tst_FxUIBaseView::destructionReleasesTheWidgetLater()
     QVERIFY(widget);
     FlushDeferredDeletes();
     QVERIFY(!widget);
+}
+
+void tst_FxUIBaseView::widgetIsReleasedBeforeTheChildrenDie()
+{
+    auto view = std::make_unique<ViewProbe>();
+    auto *child = new ViewProbe;
+    view->addView(child);
+    QStringList gone; // in the order of their deleteLater()
+    connect(child->Widget(), &QObject::destroyed, this,
+            [&gone] { gone.append(QStringLiteral("widget of the child")); });
+    connect(view->Widget(), &QObject::destroyed, this,
+            [&gone] { gone.append(QStringLiteral("widget of the view")); });
+    view.reset();
+    FlushDeferredDeletes();
+    QCOMPARE(gone,
+             (QStringList { QStringLiteral("widget of the view"),
+                            QStringLiteral("widget of the child") }));
 }
 
 void tst_FxUIBaseView::destructionAsksForTheClassNameOnlyForAHandle()

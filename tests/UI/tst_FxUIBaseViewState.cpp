@@ -236,6 +236,10 @@ void tst_FxUIBaseViewState::signalsHaveTheViewAsOwner()
     QCOMPARE(view.aboutToShow().owner, expected);
     QCOMPARE(view.hoverEnter().owner, expected);
     QCOMPARE(view.hoverLeave().owner, expected);
+    QCOMPARE(&view.aboutToPassEventToParent(), &view.Impl()->aboutToPassEventToParent());
+    QCOMPARE(&view.aboutToShow(), &view.Impl()->aboutToShow());
+    QCOMPARE(&view.hoverEnter(), &view.Impl()->hoverEnter());
+    QCOMPARE(&view.hoverLeave(), &view.Impl()->hoverLeave());
     QVERIFY(view.aboutToPassEventToParent().empty());
     QVERIFY(view.aboutToShow().empty());
     QVERIFY(view.hoverEnter().empty());

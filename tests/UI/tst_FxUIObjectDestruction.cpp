@@ -3,6 +3,7 @@
 #include "UI/FxUIObject.h"
 #include "UI/FxUIObjectData.h"
 
+#include <QtCore/QSharedPointer>
 #include <QtTest/QTest>
 
 #include <stdexcept>
@@ -13,6 +14,7 @@ class tst_FxUIObjectDestruction : public QObject {
 private Q_SLOTS:
     void deletedChildLeavesItsParent();
     void destructionGoesFromImplementationToChildrenInOrder();
+    void recordGoesBehindTheChildren();
     void dyingChildTakesItselfOutOfTheRecordOfItsParent();
     void childDeletedByASiblingDuringDestructionDiesOnce();
     void childMovedByASiblingDuringDestructionIsDeletedInItsTurn_data();
@@ -58,6 +60,24 @@ void tst_FxUIObjectDestruction::destructionGoesFromImplementationToChildrenInOrd
     };
     QCOMPARE(log, order);
     QVERIFY(!inList);
+}
+
+void tst_FxUIObjectDestruction::recordGoesBehindTheChildren()
+{
+    QStringList log;
+    auto *parent = new ObjectProbe(QStringLiteral("parent"), &log);
+    new ObjectProbe(QStringLiteral("child"), &log, parent);
+    {
+        const QSharedPointer<QObject> value(new QObject);
+        connect(value.data(), &QObject::destroyed, this,
+                [&log] { log.append(QStringLiteral("property gone")); });
+        parent->data->setProperty("value", QVariant::fromValue(value));
+    }
+    delete parent;
+    const QStringList order { QStringLiteral("parent gone"), QStringLiteral("parent impl gone"),
+                              QStringLiteral("child gone"), QStringLiteral("child impl gone"),
+                              QStringLiteral("property gone") };
+    QCOMPARE(log, order);
 }
 
 void tst_FxUIObjectDestruction::dyingChildTakesItselfOutOfTheRecordOfItsParent()
