@@ -17,6 +17,16 @@ struct Departures {
 
 Departures *innermostDepartures = nullptr;
 
+// Returns the parent that was left, null if there was none.
+CFxUIObject *LeaveParent(CFxUIObject *object)
+{
+    CFxUIObject *const parent = object->data->parent();
+    if (parent)
+        parent->data->removeChild(object);
+    object->data->setParent(nullptr);
+    return parent;
+}
+
 void NoteDeparture(const CFxUIObject *parent, CFxUIObject *child)
 {
     for (Departures *noted = innermostDepartures; noted; noted = noted->outer) {
@@ -27,8 +37,10 @@ void NoteDeparture(const CFxUIObject *parent, CFxUIObject *child)
 
 void NoteDeath(CFxUIObject *object)
 {
-    for (Departures *noted = innermostDepartures; noted; noted = noted->outer)
-        noted->departed.removeAll(object);
+    for (Departures *noted = innermostDepartures; noted; noted = noted->outer) {
+        if (!noted->departed.isEmpty())
+            noted->departed.removeAll(object);
+    }
 }
 
 // From a copy of the list: each child takes itself out of the list in the record as it dies. One
@@ -36,9 +48,11 @@ void NoteDeath(CFxUIObject *object)
 // the parent's to delete any more and is let go.
 void DeleteChildren(CFxUIObject *parent)
 {
+    const QList<CFxUIObject *> children = parent->children();
+    if (children.isEmpty())
+        return;
     Departures noted { parent, {}, innermostDepartures };
     innermostDepartures = &noted;
-    const QList<CFxUIObject *> children = parent->children();
     for (CFxUIObject *child : children) {
         if (parent->data->indexOf(child) >= 0 || noted.departed.contains(child))
             delete child;
@@ -61,7 +75,7 @@ CFxUIObject::CFxUIObject()
 
 CFxUIObject::~CFxUIObject()
 {
-    setParent(nullptr);
+    LeaveParent(this);
     NoteDeath(this);
     delete impl;
     impl = nullptr;
@@ -113,10 +127,8 @@ CFxUIObject *CFxUIObject::parent() const
 
 void CFxUIObject::setParent(CFxUIObject *parent)
 {
-    if (CFxUIObject *const former = data->parent()) {
-        former->data->removeChild(this);
+    if (const CFxUIObject *const former = LeaveParent(this))
         NoteDeparture(former, this);
-    }
     data->setParent(parent);
     if (parent)
         parent->data->addChild(this);

@@ -51,8 +51,8 @@ public:
     virtual void focusOutEvent(CFxUIFocusEvent *event);
 
     /// Makes \a child a child of this view, which owns it from then on, and puts it at the end of
-    /// the container. A child that has a parent stays where it is. What \a weight means is the
-    /// container's business.
+    /// the container. A child that has a parent stays where it is; null does nothing. What \a
+    /// weight means is the container's business.
     void addView(CFxUIBaseView *child, float weight = 0.0f);
 
     /// As addView(), at \a index of the container, but a child that has a parent moves over. In
@@ -136,15 +136,16 @@ public:
     /// No effect.
     void setCornerRadius(float radius);
 
-    /// Writes a solid border of \a width pixels into the widget's style sheet. Each call adds a
-    /// declaration; the last one wins.
+    /// Writes a solid border of \a width pixels into the widget's style sheet, any number as it is.
+    /// Each call adds a declaration; the last one wins.
     void setBorderWidth(float width);
 
     /// The same with a width for each side.
     void setBorderWidth(float left, float top, float right, float bottom);
 
-    /// Writes the border colour, each part 0 to 255, into the widget's style sheet. Each call adds
-    /// a declaration; the last one wins.
+    /// Writes the border colour, each part 0 to 255, into the widget's style sheet. Other numbers
+    /// give black, with a warning of QColor::setRgb. Each call adds a declaration; the last one
+    /// wins.
     void setBorderColor(int red, int green, int blue);
 
     /// Emitted when a key press in a CFxUIVerticalLayout is about to go to the parent widget.

@@ -8,7 +8,8 @@ class CFxUIObject;
 /// the library names a sender.
 class COMMONUI_EXPORT CFxUIEmitScope {
 public:
-    /// Sets \a sender on \a object. A null \a object makes the scope do nothing.
+    /// Sets \a sender on \a object, which must outlive the scope. A null \a object makes the scope
+    /// do nothing.
     CFxUIEmitScope(CFxUIObject *object, CFxUIObject *sender);
 
     /// Sets a null sender: an earlier one isn't restored, so that an inner scope on the same object
