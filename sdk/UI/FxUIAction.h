@@ -16,22 +16,26 @@ public:
     CFxUIAction();
     ~CFxUIAction() override;
 
+    /// QAction::setIcon.
     void setIcon(const QIcon &icon);
 
     /// No effect.
     void setResourceIcon(const QString &name);
 
+    /// Stores the text and shows it (QAction::setText).
     void setText(const QString &text);
 
     /// Stores only: the entry stays selectable.
     void setEnabled(bool enabled);
 
+    /// QAction::setCheckable.
     void setCheckable(bool checkable);
 
-    /// Stores the value for isChecked() and checks the QAction, which does so only if it is
-    /// checkable. Emits nothing.
+    /// Stores the value for isChecked() and checks the QAction (QAction::setChecked), which does so
+    /// only if it is checkable. Emits nothing.
     void setChecked(bool checked);
 
+    /// QAction::setVisible: whether menus show the entry.
     void setVisible(bool visible);
 
     /// Returns the last text set. Default: empty.

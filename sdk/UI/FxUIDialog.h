@@ -70,6 +70,8 @@ public:
 
     /// Returns the last title set; the window isn't asked. Default: empty.
     QString windowTitle();
+
+    /// Stores the title and shows it (QWidget::setWindowTitle).
     void setWindowTitle(const QString &title);
 
     /// Emitted only if the host calls OnAccepted() or OnAcceptPressed() of the implementation

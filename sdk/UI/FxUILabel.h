@@ -17,6 +17,9 @@ public:
 
     /// Returns the last text set, also while a picture is shown. Default: empty.
     QString text() const;
+
+    /// Stores the text and shows it in place of an icon or pixmap (QLabel::setText). An empty one
+    /// leaves those standing.
     void setText(const QString &text);
 
     /// Empties the text. An icon or pixmap stays, shown and stored.
@@ -26,22 +29,26 @@ public:
     /// nothing.
     void setIcon(const QIcon &icon);
 
-    /// Shows \a pixmap at its own size; a null pixmap shows nothing.
+    /// Shows \a pixmap at its own size (QLabel::setPixmap); a null pixmap shows nothing.
     void setPixmap(const QPixmap &pixmap);
 
-    /// QFont::Bold or QFont::Normal on the widget's font. Not stored.
+    /// Sets QFont::Bold or QFont::Normal on the widget's font (QWidget::setFont). Not stored.
     void setBoldText(bool bold);
 
     /// Sets the size of the text in pixels (QFont::setPixelSize, which refuses 0 and less with a
     /// warning).
     void setFontSize(int pixels);
 
-    /// Default: false.
+    /// Returns the last setWordWrap(). Default: false.
     bool wordWrap() const;
+
+    /// QLabel::setWordWrap.
     void setWordWrap(bool wrap);
 
+    /// QWidget::setToolTip.
     void setToolTip(const QString &toolTip);
 
-    /// Aligns the text; a number outside the enumeration changes nothing. Not stored.
+    /// Aligns the text or the picture (QLabel::setAlignment): left, right, or in the middle of both
+    /// axes. A number outside the enumeration changes nothing. Not stored.
     void setTextAlignment(CFxUIBaseView::TextAlignment alignment);
 };

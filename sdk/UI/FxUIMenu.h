@@ -13,13 +13,16 @@ public:
     CFxUIMenu();
     ~CFxUIMenu() override;
 
-    /// Empties the QMenu. The actions stay children of this menu until it dies.
+    /// Empties the QMenu (QMenu::clear), which deletes its separators. The actions stay children of
+    /// this menu until it dies.
     void clear();
 
-    /// Adds \a action at the end and owns it from then on. Does nothing for null.
+    /// Adds \a action at the end (QWidget::addAction) and owns it from then on. Does nothing for
+    /// null.
     void addAction(CFxUIAction *action);
 
-    /// Adds a separator and returns it; the QMenu owns it. Null without a QMenu.
+    /// Adds a separator (QMenu::addSeparator) and returns it; the QMenu owns it. Null without a
+    /// QMenu.
     QAction *addSeparator();
 
     /// Opens the menu just below \a view, the right edges aligned, and returns at once

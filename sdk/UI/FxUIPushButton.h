@@ -24,20 +24,21 @@ public:
     /// Returns the full text, never the elided one. Default: empty.
     QString text() const;
 
+    /// QAbstractButton::setIcon. Nothing answers it back.
     void setIcon(const QIcon &icon);
 
     /// No effect.
     void setResourceIcon(const QString &name);
 
-    /// Sets the size of the icon in pixels.
+    /// Sets the size of the icon in pixels (QAbstractButton::setIconSize).
     void setIconSize(const QSize &size);
 
     /// Returns the last setIconSize(). Default: the widget's own, which its style decides.
     QSize iconSize() const;
 
     /// Whether setText() and each resizing elide the text, at its right end, to the whole width of
-    /// the widget. The text that is shown now stays; once elided, it stays so until the next
-    /// setText(). Default: false.
+    /// the widget (QFontMetrics::elidedText). Stores only: the text that is shown now stays; once
+    /// elided, it stays so until the next setText(). Default: false.
     void setElideTextEnabled(bool enabled);
 
     /// Emitted when the button is clicked, at the release. The argument is always true, also on a
@@ -51,13 +52,15 @@ public:
     /// Writes the weight, bold or normal, in front of the last brace of the widget's style sheet.
     void setBoldText(bool bold);
 
+    /// QWidget::setToolTip. Not stored.
     void setToolTip(const QString &toolTip);
 
     /// Lets the button keep its state, pressed or not (QAbstractButton::setCheckable).
     void setCheckable(bool checkable);
 
-    /// Hangs \a menu on the button, which opens it when pressed; null takes a menu away. The caller
-    /// keeps the menu. One without a QMenu changes nothing.
+    /// Hangs \a menu on the button, which opens it when pressed instead of emitting clicked()
+    /// (QPushButton::setMenu); null takes a menu away. The caller keeps the menu. One without a
+    /// QMenu changes nothing.
     void setMenu(CFxUIMenu *menu);
 
     /// Shows or hides the arrow that a button with a menu has. Hiding appends a rule to the

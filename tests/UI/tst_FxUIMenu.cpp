@@ -211,8 +211,9 @@ void tst_FxUIMenu::clearLeavesTheActionsAliveAsChildren()
 {
     ScopedMenu scoped;
     CFxUIAction *action = scoped.Add("entry");
-    scoped.menu.addSeparator();
+    const QPointer<QAction> separator(scoped.menu.addSeparator());
     scoped.menu.clear();
+    QVERIFY(!separator); // the QMenu's own
     QVERIFY(QtMenu(scoped.menu)->isEmpty());
     QCOMPARE(scoped.menu.children(), QList<CFxUIObject *>({ action }));
     QCOMPARE(action->parent(), &scoped.menu);
