@@ -68,8 +68,7 @@ void DeleteChildren(CFxUIObject *parent)
 } // namespace
 
 CFxUIObject::CFxUIObject()
-    : impl(nullptr)
-    , data(new CFxUIObjectData)
+    : data(new CFxUIObjectData)
 {
 }
 

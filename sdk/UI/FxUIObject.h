@@ -66,6 +66,6 @@ public:
     void blockSignals(bool block);
     bool signalsBlocked() const;
 
-    CFxUIObjectImpl *impl; ///< the implementation object, filled by the derived class; owned
+    CFxUIObjectImpl *impl = nullptr; ///< filled by the derived class; owned
     CFxUIObjectData *data; ///< never null; owned
 };

@@ -1,6 +1,13 @@
 #include "UI/FxUISignal.h"
 
+#include "NA/FxNANetworkReply.h"
 #include "support/TestMain.h"
+#include "UI/FxUIAction.h"
+#include "UI/FxUIBaseView.h"
+#include "UI/FxUIComboBox.h"
+#include "UI/FxUIDialogButtonBox.h"
+#include "UI/FxUISlider.h"
+#include "UI/FxUITextEdit.h"
 
 #include <QtCore/QString>
 #include <QtTest/QTest>
@@ -38,6 +45,26 @@ static_assert(!std::is_copy_constructible_v<CFxUISignal<void()>>);
 static_assert(!std::is_move_constructible_v<CFxUISignal<void()>>);
 static_assert(!std::is_default_constructible_v<CFxUISignal<void()>>);
 static_assert(!std::is_convertible_v<CFxUIObject *, CFxUISignal<void()>>);
+
+// Every signature that the library's signals have, each once: by value or by reference is part of
+// it.
+
+template <class Accessed, class Signature>
+constexpr bool isSignal = std::is_same_v<Accessed, CFxUISignal<Signature> &>;
+
+static_assert(isSignal<decltype(std::declval<CFxUIBaseView &>().aboutToShow()), void()>);
+static_assert(isSignal<decltype(std::declval<CFxUIAction &>().triggered()), void(bool)>);
+static_assert(isSignal<decltype(std::declval<CFxUISlider &>().valueChanged()), void(int)>);
+static_assert(isSignal<decltype(std::declval<CFxUITextEdit &>().keyPressed()), void(int, int)>);
+static_assert(
+    isSignal<decltype(std::declval<CFxUIComboBox &>().editTextChanged()), void(const QString &)>);
+static_assert(isSignal<decltype(std::declval<CFxUITextEdit &>().textChanged()), void(QString)>);
+static_assert(isSignal<decltype(std::declval<CFxNANetworkReply &>().downloadProgress()),
+                       void(long long, long long)>);
+static_assert(isSignal<decltype(std::declval<CFxNANetworkReply &>().error()),
+                       void(CFxNANetworkReply::NetworkError)>);
+static_assert(
+    isSignal<decltype(std::declval<CFxUIDialogButtonBox &>().clicked()), void(CFxUIPushButton *)>);
 
 class tst_FxUISignal : public QObject {
     Q_OBJECT
