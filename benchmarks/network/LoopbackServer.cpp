@@ -7,6 +7,8 @@
 #include <QtWebSockets/QWebSocket>
 #include <QtWebSockets/QWebSocketServer>
 
+#include <pthread.h>
+
 namespace {
 
 QSemaphore g_listening;
@@ -54,8 +56,16 @@ QString LoopbackServer::WebSocket() const
     return QStringLiteral("ws://127.0.0.1:%1/").arg(m_webSocketPort);
 }
 
+double LoopbackServer::ProcessorSeconds() const
+{
+    timespec time {};
+    clock_gettime(m_clock, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+}
+
 void LoopbackServer::run()
 {
+    pthread_getcpuclockid(pthread_self(), &m_clock);
     const QByteArray smallAnswer = Answer(SmallSize);
     const QByteArray largeAnswer = Answer(LargeSize);
     QTcpServer http;

@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 #include <QtCore/QThread>
 
+#include <ctime>
+
 /// An HTTP server (GET /small, GET /large) and a WebSocket server that echoes, on the loopback
 /// interface, in a thread of their own.
 class LoopbackServer : public QThread {
@@ -18,10 +20,14 @@ public:
     QString Http(const QString &path) const;
     QString WebSocket() const;
 
+    /// The processor time that the thread has spent.
+    double ProcessorSeconds() const;
+
 protected:
     void run() override;
 
 private:
+    clockid_t m_clock = 0;
     quint16 m_httpPort = 0;
     quint16 m_webSocketPort = 0;
 };
