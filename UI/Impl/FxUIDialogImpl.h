@@ -3,7 +3,6 @@
 #include "UI/FxUISignal.h"
 #include "UI/Impl/FxUIObjectImpl.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 #include <memory>
@@ -80,6 +79,5 @@ protected:
     CFxUISignal<void()> m_accepted; ///< emitted by OnAccepted() and OnAcceptPressed()
     CFxUISignal<void()> m_rejected; ///< emitted by OnRejected() and OnRejectPressed()
     CFxUISignal<void(int)> m_finished; ///< never emitted
-    QPointer<QObject> m_frontend; // the host may have taken the handle away
     std::shared_ptr<void> m_alive = std::make_shared<bool>(true); // ends with this object
 };

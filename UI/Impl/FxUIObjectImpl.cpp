@@ -9,11 +9,17 @@ CFxUIObjectImpl::CFxUIObjectImpl(CFxUIObject *object)
 
 CFxUIObjectImpl::~CFxUIObjectImpl()
 {
-    for (const QMetaObject::Connection &connection : std::as_const(m_connections))
-        QObject::disconnect(connection);
+    CutFrontend();
 }
 
-void CFxUIObjectImpl::EndWithThis(const QMetaObject::Connection &connection)
+void CFxUIObjectImpl::EndWithThis(std::function<void()> task)
 {
-    m_connections.append(connection);
+    m_tasks.append(std::move(task));
+}
+
+void CFxUIObjectImpl::CutFrontend()
+{
+    const QList<std::function<void()>> tasks = std::exchange(m_tasks, {});
+    for (const std::function<void()> &task : tasks)
+        task();
 }

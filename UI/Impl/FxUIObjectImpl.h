@@ -3,9 +3,10 @@
 #include "UI/FxUIExport.h"
 
 #include <QtCore/QList>
-#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include <functional>
 
 class CFxUIObject;
 
@@ -16,7 +17,7 @@ public:
     /// \a object is the public object; not null, not owned. Its `impl` isn't set yet.
     explicit CFxUIObjectImpl(CFxUIObject *object);
 
-    /// Ends the connections that were handed to EndWithThis().
+    /// Runs what was handed to EndWithThis().
     virtual ~CFxUIObjectImpl();
 
     CFxUIObjectImpl(const CFxUIObjectImpl &) = delete;
@@ -34,12 +35,17 @@ public:
     /// QObject::setProperty on the handle; its result, or false without a handle.
     virtual bool SetPropertyImpl(const char *name, const QVariant &value);
 
-    /// Cuts \a connection when this object dies, whatever has become of the handle by then: a Qt
-    /// object outlives it until the event loop next runs, and for ever where nobody deletes it.
-    void EndWithThis(const QMetaObject::Connection &connection);
+    /// Runs \a task, which cuts a Qt object's way to this object, when this object dies, whatever
+    /// has become of the handle by then: a Qt object outlives it until the event loop next runs,
+    /// and for ever where nobody deletes it.
+    void EndWithThis(std::function<void()> task);
 
     CFxUIObject *owner;
 
 protected:
-    QList<QMetaObject::Connection> m_connections;
+    /// Runs the tasks now, in the order in which they came, and forgets them. For a deriving class
+    /// whose own signals a frontend emits: they are gone before this class's destructor runs.
+    void CutFrontend();
+
+    QList<std::function<void()>> m_tasks;
 };

@@ -8,7 +8,7 @@ CFxUIPushButtonImpl::CFxUIPushButtonImpl(CFxUIObject *object)
 
 CFxUIPushButtonImpl::~CFxUIPushButtonImpl()
 {
-    DetachFrontendImpl();
+    CutFrontend();
 }
 
 // True for every click, and not the check state. Intended.

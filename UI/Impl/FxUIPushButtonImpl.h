@@ -2,7 +2,6 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtGui/QIcon>
@@ -52,14 +51,10 @@ public:
     void SetMenuImpl(CFxUIMenu *menu);
     void SetMenuArrowVisibleImpl(bool visible);
 
-    /// Takes the way back from the frontend, which outlives this object.
-    void DetachFrontendImpl();
-
 protected:
     QString m_text;
     QIcon m_icon;
     QSize m_iconSize; // -1 by -1, then the widget's own
     bool m_elideText = false;
     CFxUISignal<void(bool)> m_clicked; ///< emitted when the button is clicked with true
-    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

@@ -11,7 +11,7 @@ CFxUITextEditImpl::CFxUITextEditImpl(CFxUIObject *object)
 
 CFxUITextEditImpl::~CFxUITextEditImpl()
 {
-    DetachFrontendImpl();
+    CutFrontend();
 }
 
 // The widget reports the change as well, so that slots see textChanged, textEdited, textChanged.

@@ -2,7 +2,6 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 /// Implementation object of CFxUITextEdit.
@@ -50,9 +49,6 @@ public:
     void SetInputTypeImpl(int type);
     void SetReadOnlyImpl(bool readOnly);
 
-    /// Cuts the frontend's way back here; it outlives this object.
-    void DetachFrontendImpl();
-
 protected:
     QString m_text;
     QString m_inputMask;
@@ -63,5 +59,4 @@ protected:
     CFxUISignal<void()> m_editingFinished; ///< emitted by OnEditingFinished(), so never
     CFxUISignal<void(QString)> m_textEdited; ///< emitted behind the handler's textChanged
     CFxUISignal<void(int, int)> m_keyPressed; ///< emitted before the widget sees the key
-    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

@@ -13,7 +13,7 @@ CFxUITextViewImpl::CFxUITextViewImpl(CFxUIObject *object)
 
 CFxUITextViewImpl::~CFxUITextViewImpl()
 {
-    DetachFrontendImpl();
+    CutFrontend();
 }
 
 // No comparison with the text that stands, and the document reports the change as well, so that

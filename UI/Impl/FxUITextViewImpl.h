@@ -2,7 +2,6 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 /// Implementation object of CFxUITextView.
@@ -54,9 +53,6 @@ public:
     static QString HostTextImpl(const QString &text);
     static QString EncodedTextImpl(const QString &text);
 
-    /// Cuts the frontend's way back here; it outlives this object.
-    void DetachFrontendImpl();
-
 protected:
     CFxUIBaseView *View() const;
 
@@ -67,5 +63,4 @@ protected:
     CFxUISignal<void()> m_focusInEventSignal; ///< emitted when the widget gets the focus
     CFxUISignal<void()> m_focusOutEventSignal; ///< emitted when the widget loses the focus
     CFxUISignal<void(int, int)> m_keyPressed; ///< emitted before the widget sees the key
-    QPointer<QObject> m_frontend; // the host may have taken the handle away
 };

@@ -7,7 +7,7 @@ CFxUIVerticalLayoutImpl::CFxUIVerticalLayoutImpl(CFxUIObject *object)
 
 CFxUIVerticalLayoutImpl::~CFxUIVerticalLayoutImpl()
 {
-    DetachFrontendImpl();
+    CutFrontend();
 }
 
 void CFxUIVerticalLayoutImpl::setContentsMargins(int left, int top, int right, int bottom)

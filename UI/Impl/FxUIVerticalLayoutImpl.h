@@ -2,7 +2,6 @@
 
 #include "UI/Impl/FxUIBaseViewImpl.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 /// Implementation object of CFxUIVerticalLayout. Margins and spacing are in the Qt layout alone.
@@ -26,10 +25,6 @@ public:
     void SetContentsMarginsImpl(int left, int top, int right, int bottom);
     void SetSpacingImpl(int spacing);
 
-    /// Ends the frontend's way back to this object.
-    void DetachFrontendImpl();
-
 protected:
     QString m_name; // neither read nor written. Intended.
-    QPointer<QObject> m_frontend; // a dialog takes the handle away before its layout dies
 };

@@ -3,6 +3,7 @@
 #include "UI/Impl/FxUIObjectImpl.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
 #include <utility>
 
@@ -11,8 +12,9 @@
 template <class Frontend, class Signal, class Callable>
 void ConnectFrontend(Frontend *frontend, Signal signal, CFxUIObjectImpl *impl, Callable callable)
 {
-    impl->EndWithThis(
-        QObject::connect(frontend, signal, frontend, std::move(callable), Qt::DirectConnection));
+    const QMetaObject::Connection connection =
+        QObject::connect(frontend, signal, frontend, std::move(callable), Qt::DirectConnection);
+    impl->EndWithThis([connection] { QObject::disconnect(connection); });
 }
 
 /// The same to \a handler of \a impl.
@@ -22,4 +24,15 @@ void ConnectFrontend(Frontend *frontend, Signal signal, Impl *impl, void (Impl::
     ConnectFrontend(
         frontend, signal, static_cast<CFxUIObjectImpl *>(impl),
         [impl, handler](Args... args) { (impl->*handler)(std::forward<Args>(args)...); });
+}
+
+/// Gives \a frontend its way back to \a impl. It is null again once \a impl is gone, also where the
+/// host has taken the handle away.
+template <class Frontend, class Impl> void LinkFrontend(Frontend *frontend, Impl *impl)
+{
+    frontend->impl = impl;
+    impl->EndWithThis([guard = QPointer<QObject>(frontend)] {
+        if (auto *alive = qobject_cast<Frontend *>(guard.data()))
+            alive->impl = nullptr;
+    });
 }

@@ -3,8 +3,7 @@
 #include "FxDocument.h"
 #include "UI/FxUIDialog.h"
 #include "UI/FxUIVerticalLayout.h"
-#include "UI/Impl/FxUIVerticalLayoutImpl.h"
-#include "UI/Impl/ImplOf.h"
+#include "UI/Impl/qt/ConnectFrontend.h"
 #include "UI/Impl/qt/frontend/FxUIDialogFrontend.h"
 #include "UI/Impl/qt/FrontendCast.h"
 
@@ -17,7 +16,6 @@ namespace {
 void LeaveGroupBoxBehind(CFxUIVerticalLayout *layout)
 {
     layout->setBusyState(false);
-    ImplOf<CFxUIVerticalLayoutImpl>(layout)->DetachFrontendImpl();
     layout->setHandle(nullptr);
 }
 
@@ -26,16 +24,14 @@ void LeaveGroupBoxBehind(CFxUIVerticalLayout *layout)
 void CFxUIDialogImpl::CreateFrontendDialogImpl()
 {
     auto *dialog = new CFxUIDialogFrontend;
-    dialog->impl = this;
-    m_frontend = dialog;
+    LinkFrontend(dialog, this);
     owner->setHandle(dialog);
 }
 
 // The window is left behind, with its group box and Qt layout inside. Intended.
 void CFxUIDialogImpl::DestroyFrontendDialogImpl()
 {
-    if (auto *dialog = qobject_cast<CFxUIDialogFrontend *>(m_frontend.data()))
-        dialog->impl = nullptr;
+    CutFrontend();
     if (auto *dialog = FrontendCast<CFxUIDialogFrontend>(owner)) {
         dialog->impl = nullptr; // a host may have set another window
         dialog->setParent(nullptr);

@@ -1,6 +1,7 @@
 #include "UI/Impl/FxUIPushButtonImpl.h"
 
 #include "UI/FxUIMenu.h"
+#include "UI/Impl/qt/ConnectFrontend.h"
 #include "UI/Impl/qt/frontend/FxUIPushButtonFrontend.h"
 #include "UI/Impl/qt/FrontendCast.h"
 #include "UI/Impl/qt/StyleSheetEdit.h"
@@ -16,8 +17,7 @@ void CFxUIPushButtonImpl::CreateFrontendControl()
 {
     auto *button = new CFxUIPushButtonFrontend;
     button->setStyleSheet(QStringLiteral("QPushButton { }"));
-    button->impl = this;
-    m_frontend = button;
+    LinkFrontend(button, this);
     owner->setHandle(button);
     m_iconSize = button->iconSize();
 }
@@ -82,10 +82,4 @@ void CFxUIPushButtonImpl::SetMenuArrowVisibleImpl(bool visible)
 {
     if (auto *button = FrontendCast<CFxUIPushButtonFrontend>(owner))
         button->setStyleSheet(StyleSheetEdit::WithMenuArrow(button->styleSheet(), visible));
-}
-
-void CFxUIPushButtonImpl::DetachFrontendImpl()
-{
-    if (auto *button = qobject_cast<CFxUIPushButtonFrontend *>(m_frontend.data()))
-        button->impl = nullptr;
 }

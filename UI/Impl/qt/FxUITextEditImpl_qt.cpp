@@ -14,8 +14,7 @@ void CFxUITextEditImpl::CreateFrontendControl()
     auto *frontend = new CFxUITextEditFrontend;
     frontend->setStyleSheet(QStringLiteral("QLineEdit { }"));
     owner->setHandle(frontend);
-    frontend->impl = this;
-    m_frontend = frontend;
+    LinkFrontend(frontend, this);
     ConnectFrontend(frontend, &QLineEdit::textChanged, this, &CFxUITextEditImpl::OnEditTextChanged);
     // The modifiers stay behind: slots get 0, unlike those of the text view. Intended.
     ConnectFrontend(frontend, &CFxUITextEditFrontend::keyPressed, this,
@@ -65,10 +64,4 @@ void CFxUITextEditImpl::SetReadOnlyImpl(bool readOnly)
 {
     if (auto *frontend = FrontendCast<CFxUITextEditFrontend>(owner))
         frontend->setReadOnly(readOnly);
-}
-
-void CFxUITextEditImpl::DetachFrontendImpl()
-{
-    if (auto *frontend = qobject_cast<CFxUITextEditFrontend *>(m_frontend.data()))
-        frontend->impl = nullptr;
 }

@@ -15,8 +15,7 @@ void CFxUITextViewImpl::CreateFrontendControl()
 {
     auto *frontend = new CFxUITextViewFrontend;
     frontend->setStyleSheet(QStringLiteral("QTextEdit { }"));
-    frontend->impl = this;
-    m_frontend = frontend;
+    LinkFrontend(frontend, this);
     owner->setHandle(frontend);
     ConnectFrontend(frontend, &CFxUITextViewFrontend::keyPressed, this,
                     &CFxUITextViewImpl::OnKeyPressed);
@@ -74,10 +73,4 @@ QString CFxUITextViewImpl::EncodedTextImpl(const QString &text)
     CFxString encoded(text);
     encoded.EncodeHTML();
     return encoded;
-}
-
-void CFxUITextViewImpl::DetachFrontendImpl()
-{
-    if (auto *frontend = qobject_cast<CFxUITextViewFrontend *>(m_frontend.data()))
-        frontend->impl = nullptr;
 }

@@ -1,6 +1,7 @@
 #include "UI/Impl/FxUIVerticalLayoutImpl.h"
 
 #include "UI/Impl/qt/BoxLayout.h"
+#include "UI/Impl/qt/ConnectFrontend.h"
 #include "UI/Impl/qt/frontend/FxUIVertLayoutFrontend.h"
 #include "UI/Impl/qt/FrontendCast.h"
 
@@ -16,8 +17,7 @@ void CFxUIVerticalLayoutImpl::CreateFrontendControl()
     auto *frontend = new CFxUIVertLayoutFrontend;
     frontend->setStyleSheet(QStringLiteral("QGroupBox { border: none; padding: 0px; }"));
     owner->setHandle(frontend);
-    frontend->impl = this;
-    m_frontend = frontend;
+    LinkFrontend(frontend, this);
     auto *layout = new QVBoxLayout(frontend);
     layout->setContentsMargins(0, 0, 0, 0);
 }
@@ -63,10 +63,4 @@ void CFxUIVerticalLayoutImpl::SetContentsMarginsImpl(int left, int top, int righ
 void CFxUIVerticalLayoutImpl::SetSpacingImpl(int spacing)
 {
     BoxLayout::SetSpacing(BoxLayout::Find<CFxUIVertLayoutFrontend>(owner), spacing);
-}
-
-void CFxUIVerticalLayoutImpl::DetachFrontendImpl()
-{
-    if (auto *frontend = qobject_cast<CFxUIVertLayoutFrontend *>(m_frontend.data()))
-        frontend->impl = nullptr;
 }

@@ -4,10 +4,14 @@
 #include "support/TestMain.h"
 #include "UI/FxUIObject.h"
 #include "UI/FxUISlider.h"
+#include "UI/FxUITextEdit.h"
 #include "UI/Impl/FxUIObjectImpl.h"
+#include "UI/Impl/FxUIPushButtonImpl.h"
+#include "UI/Impl/qt/frontend/FxUIPushButtonFrontend.h"
 
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSlider>
 
 #include <memory>
@@ -43,6 +47,9 @@ private Q_SLOTS:
     void connectionsOfOthersStayWhenTheImplementationEnds();
     void handlerIsNotCalledForAWidgetThatLostItsControl();
     void handlerIsNotCalledForAWidgetThatWasTakenFromItsControl();
+    void handlerIsNotCalledWhileTheSlotsDie();
+    void wayBackEndsWithTheImplementation();
+    void wayBackOfADeadFrontendIsLeftAlone();
 };
 
 void tst_ConnectFrontend::handlerRunsOnTheStackOfTheSignal()
@@ -125,6 +132,45 @@ void tst_ConnectFrontend::handlerIsNotCalledForAWidgetThatWasTakenFromItsControl
     control.reset();
     widget->setValue(7);
     QCOMPARE(calls, 0);
+}
+
+// What a slot holds dies with the signals, when the handlers must not run any more.
+void tst_ConnectFrontend::handlerIsNotCalledWhileTheSlotsDie()
+{
+    auto control = std::make_unique<CFxUITextEdit>();
+    const QPointer<QLineEdit> widget(qobject_cast<QLineEdit *>(control->getHandle()));
+    int calls = 0;
+    control->textChanged().connect([&calls](const QString &) { ++calls; });
+    std::shared_ptr<void> held(nullptr,
+                               [widget](void *) { widget->setText(QStringLiteral("late")); });
+    control->textEdited().connect([held](const QString &) {});
+    held.reset();
+    control.reset();
+    QCOMPARE(widget->text(), QStringLiteral("late"));
+    QCOMPARE(calls, 0);
+    FlushDeferredDeletes();
+}
+
+void tst_ConnectFrontend::wayBackEndsWithTheImplementation()
+{
+    CFxUIPushButtonFrontend frontend;
+    {
+        CFxUIObject owner;
+        CFxUIPushButtonImpl impl(&owner);
+        LinkFrontend(&frontend, &impl);
+        QCOMPARE(frontend.impl, &impl);
+    }
+    QVERIFY(!frontend.impl);
+}
+
+void tst_ConnectFrontend::wayBackOfADeadFrontendIsLeftAlone()
+{
+    CFxUIObject owner;
+    CFxUIPushButtonImpl impl(&owner);
+    auto frontend = std::make_unique<CFxUIPushButtonFrontend>();
+    LinkFrontend(frontend.get(), &impl);
+    frontend.reset();
+    impl.OnPressed(); // stands on its own
 }
 
 int main(int argc, char **argv)
