@@ -10,11 +10,12 @@ row's ratio is taken within a run, and the median over the runs is printed.
 import argparse
 import collections
 import json
+import math
 import statistics
 import subprocess
 import sys
 
-CURVE = "text view setText/"
+CURVE = "text view/length/"
 
 
 def run_program(program):
@@ -71,10 +72,11 @@ def print_rows(rows):
 
 
 def print_compact(rows):
-    """A Markdown table with a line for each control and group: NAME RATIO (MORE)."""
+    """Markdown tables with a line for each control: NAME RATIO (NANOSECONDS MORE)."""
     lines = collections.defaultdict(list)
     for row in rows:
-        control, group, name = row.name.split("/", 2)
+        parts = row.name.split("/", 2)
+        control, group, name = parts if len(parts) == 3 else ("", row.peer, row.name)
         lines[group, control].append(f"{name} {row.ratio:.2f} ({row.extra:+.0f})")
     for group in dict.fromkeys(group for group, _ in lines):
         print(f"\n| {group} | ratio to Qt (ns more) |\n|---|---|")
@@ -82,56 +84,65 @@ def print_compact(rows):
             print(f"| {control} | {'; '.join(cells)} |")
 
 
-def curve(measured):
-    """The points of the curve: (length, microseconds)."""
-    first = measured[0].get(CURVE.rstrip("/"), {})
-    return [(int(length), statistics.median(run[CURVE.rstrip("/")][length] for run in measured))
-            for length in first]
+def curves(rows):
+    """The curves of setText: {label: [(length, microseconds)]}."""
+    rows = [row for row in rows if row.name.startswith(CURVE)]
+    lengths = [int(row.name[len(CURVE):]) for row in rows]
+    return {"CFxUITextView::setText": list(zip(lengths, [(row.qt + row.extra) / 1000 for row in rows])),
+            "QTextEdit::setPlainText": list(zip(lengths, [row.qt / 1000 for row in rows]))}
 
 
-def print_curve(points):
-    print("\ntext view, setText over an old text of")
-    for length, microseconds in points:
-        print(f"{length:8} characters {microseconds:10.0f} us")
+class Plot:
+    """An SVG picture with logarithmic axes."""
+    WIDTH, HEIGHT, MARGIN = 680, 420, 80
+    COLORS = ("#214b98", "#b0521d")
 
+    def __init__(self, series):
+        xs = [x for points in series.values() for x, _ in points]
+        ys = [y for points in series.values() for _, y in points]
+        self.x_low, self.x_high = math.log10(min(xs)), math.log10(max(xs))
+        self.y_low, self.y_high = math.floor(math.log10(min(ys))), math.ceil(math.log10(max(ys)))
+        self.parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{self.WIDTH}" '
+                      f'height="{self.HEIGHT}" font-family="DejaVu Sans, sans-serif" font-size="12">',
+                      f'<rect width="{self.WIDTH}" height="{self.HEIGHT}" fill="#fff"/>']
+        self.draw_axes(sorted(set(xs)))
+        for color, (label, points) in zip(self.COLORS, series.items()):
+            self.draw_curve(color, label, points)
+        self.parts.append('</svg>\n')
 
-def plot(points, path):
-    """Writes a plot with logarithmic axes."""
-    import math
-    width, height, margin = 680, 420, 80
-    xs = [math.log10(x) for x, _ in points]
-    ys = [math.log10(y) for _, y in points]
-    x_low, x_high = min(xs), max(xs)
-    y_low, y_high = math.floor(min(ys)), math.ceil(max(ys))
+    def at(self, x, y):
+        width, height = self.WIDTH - 2 * self.MARGIN, self.HEIGHT - 2 * self.MARGIN
+        return (self.MARGIN + (math.log10(x) - self.x_low) / (self.x_high - self.x_low) * width,
+                self.HEIGHT - self.MARGIN
+                - (math.log10(y) - self.y_low) / (self.y_high - self.y_low) * height)
 
-    def at(x, y):
-        return (margin + (x - x_low) / (x_high - x_low) * (width - 2 * margin),
-                height - margin - (y - y_low) / (y_high - y_low) * (height - 2 * margin))
+    def text(self, x, y, text, attributes=""):
+        self.parts.append(f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="middle" {attributes}>{text}</text>')
 
-    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
-             'font-family="DejaVu Sans, sans-serif" font-size="12">',
-             f'<rect width="{width}" height="{height}" fill="#fff"/>']
-    for y in range(y_low, y_high + 1):
-        _, py = at(x_low, y)
-        parts.append(f'<line x1="{margin}" y1="{py:.1f}" x2="{width - margin}" y2="{py:.1f}" '
-                     'stroke="#ddd"/>')
-        parts.append(f'<text x="{margin - 8}" y="{py + 4:.1f}" text-anchor="end">{10 ** y:g}</text>')
-    for (x, _), lx in zip(points, xs):
-        px, _ = at(lx, y_low)
-        parts.append(f'<text x="{px:.1f}" y="{height - margin + 18}" text-anchor="middle">{x}</text>')
-    path_points = " ".join(f"{px:.1f},{py:.1f}" for px, py in map(at, xs, ys))
-    parts.append(f'<polyline points="{path_points}" fill="none" stroke="#214b98" stroke-width="2"/>')
-    for lx, ly in zip(xs, ys):
-        px, py = at(lx, ly)
-        parts.append(f'<circle cx="{px:.1f}" cy="{py:.1f}" r="3.5" fill="#214b98"/>')
-    parts.append(f'<text x="{width / 2}" y="{height - 12}" text-anchor="middle">'
-                 'characters of the old text</text>')
-    parts.append(f'<text x="16" y="{height / 2}" text-anchor="middle" '
-                 f'transform="rotate(-90 16 {height / 2})">microseconds for setText</text>')
-    parts.append('</svg>\n')
-    with open(path, "w", encoding="utf-8") as file:
-        file.write("\n".join(parts))
-    print(f"plot: {path}")
+    def draw_axes(self, xs):
+        left, right = self.MARGIN, self.WIDTH - self.MARGIN
+        for exponent in range(self.y_low, self.y_high + 1):
+            _, y = self.at(xs[0], 10 ** exponent)
+            self.parts.append(f'<line x1="{left}" y1="{y:.1f}" x2="{right}" y2="{y:.1f}" stroke="#ddd"/>')
+            self.text(left - 30, y + 4, f"{10 ** exponent:,}")
+        for x in xs:
+            self.text(self.at(x, 10 ** self.y_low)[0], self.HEIGHT - self.MARGIN + 18, x)
+        self.text(self.WIDTH / 2, self.HEIGHT - 12, "characters of the old text and of the new one")
+        self.text(16, self.HEIGHT / 2, "microseconds",
+                  f'transform="rotate(-90 16 {self.HEIGHT // 2})"')
+
+    def draw_curve(self, color, label, points):
+        places = [self.at(x, y) for x, y in points]
+        line = " ".join(f"{x:.1f},{y:.1f}" for x, y in places)
+        self.parts.append(f'<polyline points="{line}" fill="none" stroke="{color}" stroke-width="2"/>')
+        self.parts += [f'<circle cx="{x:.1f}" cy="{y:.1f}" r="3.5" fill="{color}"/>' for x, y in places]
+        x, y = places[len(places) // 2]
+        self.text(x - 60, y - 16, label, f'fill="{color}"')
+
+    def write(self, path):
+        with open(path, "w", encoding="utf-8") as file:
+            file.write("\n".join(self.parts))
+        print(f"plot: {path}")
 
 
 def main():
@@ -144,12 +155,12 @@ def main():
     arguments = parser.parse_args()
     measured = measure(arguments.program, arguments.runs,
                        "real_time" if arguments.wall else "cpu_time")
-    (print_compact if arguments.compact else print_rows)(rows_of(measured))
-    points = curve(measured)
-    if points:
-        print_curve(points)
-    if arguments.plot and points:
-        plot(points, arguments.plot)
+    rows = rows_of(measured)
+    (print_compact if arguments.compact else print_rows)(rows)
+    if arguments.plot:
+        if not any(row.name.startswith(CURVE) for row in rows):
+            sys.exit("this program has no rows to plot")
+        Plot(curves(rows)).write(arguments.plot)
 
 
 if __name__ == "__main__":

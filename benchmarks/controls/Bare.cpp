@@ -1,5 +1,7 @@
 #include "Bare.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QTextStream>
 #include <QtGui/QFocusEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -137,4 +139,23 @@ BareButtonBox::BareButtonBox()
     connect(this, &QDialogButtonBox::accepted, this, [this] { result = 1; });
     connect(this, &QDialogButtonBox::rejected, this, [this] { result = 0; });
     connect(this, &QDialogButtonBox::clicked, this, [this] { ++heard; });
+}
+
+BareDialog::BareDialog()
+    : QDialog(nullptr, Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
+{
+    QFile file(QStringLiteral(":/commonui/resources/qss/light_style.qss"));
+    if (file.open(QIODevice::ReadOnly))
+        setStyleSheet(QTextStream(&file).readAll());
+}
+
+int BareDialog::exec()
+{
+    if (!content) {
+        content = new BareColumn;
+        auto *box = new QVBoxLayout(this);
+        box->setContentsMargins(0, 0, 0, 0);
+        box->addWidget(content);
+    }
+    return QDialog::exec();
 }

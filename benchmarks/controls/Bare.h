@@ -6,6 +6,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
@@ -133,4 +134,13 @@ struct BareButtonBox : QDialogButtonBox {
 
     int heard = 0;
     int result = 0;
+};
+
+struct BareDialog : QDialog {
+    BareDialog();
+
+    /// Makes the content at the first call.
+    int exec() override;
+
+    BareColumn *content = nullptr;
 };

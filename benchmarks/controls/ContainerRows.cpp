@@ -2,11 +2,9 @@
 #include "Rows.h"
 #include "Steps.h"
 
-#include "UI/FxUIDialogButtonBox.h"
 #include "UI/FxUIGroupBox.h"
 #include "UI/FxUIHorizontalLayout.h"
 #include "UI/FxUILabel.h"
-#include "UI/FxUIPushButton.h"
 #include "UI/FxUIRadioButton.h"
 #include "UI/FxUIRadioGroup.h"
 #include "UI/FxUIScrollableArea.h"
@@ -73,6 +71,19 @@ template <class Container, class Bare> void RegisterBox(const char *name)
     rows.Set(
         "setSpacing", [](Labels &container, int i) { container.setSpacing(i % 9); },
         [](BareLabels &container, int i) { container.box->setSpacing(i % 9); });
+}
+
+/// A static setter, which needs two widgets in one window.
+void RegisterTabOrder()
+{
+    Rows<WithLabels<CFxUIVerticalLayout>, BareWithLabels<BareColumn>>("view").Set(
+        "setTabOrder",
+        [](auto &column, int i) {
+            CFxUIBaseView::setTabOrder(column.labels[i % 2], column.labels[(i + 1) % 2]);
+        },
+        [](auto &column, int i) {
+            QWidget::setTabOrder(column.labels[i % 2], column.labels[(i + 1) % 2]);
+        });
 }
 
 void RegisterBoxes()
@@ -196,34 +207,13 @@ void RegisterStackedWidget()
     });
 }
 
-struct ButtonBox : CFxUIDialogButtonBox {
-    ButtonBox()
-        : CFxUIDialogButtonBox(nullptr)
-    {
-    }
-};
-
-void RegisterButtonBox()
-{
-    const Rows<ButtonBox, BareButtonBox> rows("dialog button box");
-    rows.Make();
-    rows.User(
-        "click OK",
-        [](ButtonBox &box, int &heard) {
-            box.clicked().connect([&heard](CFxUIPushButton *) { ++heard; });
-        },
-        [](QWidget &box, int) {
-            static_cast<QDialogButtonBox &>(box).button(QDialogButtonBox::Ok)->click();
-        });
-}
-
 } // namespace
 
 void RegisterContainerRows()
 {
+    RegisterTabOrder();
     RegisterBoxes();
     Rows<Radios, BareRadios>("radio group").Make("with 3 buttons, in a group box");
     RegisterScrollableArea();
     RegisterStackedWidget();
-    RegisterButtonBox();
 }

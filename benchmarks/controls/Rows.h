@@ -17,6 +17,7 @@ void RegisterCheckableRows();
 void RegisterChoiceRows();
 void RegisterTextRows();
 void RegisterContainerRows();
+void RegisterDialogRows();
 void RegisterMenuRows();
 
 /// \a Bare is what one writes in Qt alone for the same widget: the same style sheet and set-up, and

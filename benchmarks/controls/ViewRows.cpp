@@ -116,10 +116,9 @@ template <class Change> void ChangeFont(Bare &label, Change change)
 void RegisterLabelSetters(const Rows<Label, Bare> &rows)
 {
     rows.Set("setText", [](auto &label, int i) { label.setText(Text(i)); });
-    rows.Set("setText, clear", [](auto &label, int i) {
-        label.setText(Text(i));
-        label.clear();
-    });
+    const auto clear = [](auto &label, int) { label.clear(); };
+    rows.SetFrom(
+        "clear", 1, [](auto &label) { label.setText(Text(0)); }, clear, clear);
     rows.Set(
         "setIcon", [](Label &label, int i) { label.setIcon(Icon(i)); },
         [](Bare &label, int i) { label.setPixmap(Icon(i).pixmap(QSize(25, 25))); });

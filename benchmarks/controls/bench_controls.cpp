@@ -8,8 +8,22 @@
 
 #include <QtWidgets/QApplication>
 
+#include <cstdio>
+
+namespace {
+
+// The offscreen plugin complains once for each window that a row shows.
+void DropComplaintsOfThePlugin(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    qInstallMessageHandler(DropComplaintsOfThePlugin);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     RegisterViewRows();
@@ -18,6 +32,7 @@ int main(int argc, char **argv)
     RegisterChoiceRows();
     RegisterTextRows();
     RegisterContainerRows();
+    RegisterDialogRows();
     RegisterMenuRows();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
