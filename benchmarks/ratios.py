@@ -72,9 +72,10 @@ def print_rows(rows):
 
 
 def print_compact(rows):
-    """Markdown tables with a line for each control: NAME RATIO (NANOSECONDS MORE)."""
+    """Markdown tables with a line for each control: NAME RATIO (NANOSECONDS MORE). The plot's rows
+    are left out."""
     lines = collections.defaultdict(list)
-    for row in rows:
+    for row in (row for row in rows if not row.name.startswith(CURVE)):
         parts = row.name.split("/", 2)
         control, group, name = parts if len(parts) == 3 else ("", row.peer, row.name)
         lines[group, control].append(f"{name} {row.ratio:.2f} ({row.extra:+.0f})")
