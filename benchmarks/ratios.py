@@ -102,7 +102,7 @@ class Plot:
         xs = [x for points in series.values() for x, _ in points]
         ys = [y for points in series.values() for _, y in points]
         self.x_low, self.x_high = math.log10(min(xs)), math.log10(max(xs))
-        self.y_low, self.y_high = math.floor(math.log10(min(ys))), math.ceil(math.log10(max(ys)))
+        self.y_low, self.y_high = max(0, math.floor(math.log10(min(ys)))), math.ceil(math.log10(max(ys)))
         self.parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{self.WIDTH}" '
                       f'height="{self.HEIGHT}" font-family="DejaVu Sans, sans-serif" font-size="12">',
                       f'<rect width="{self.WIDTH}" height="{self.HEIGHT}" fill="#fff"/>']
@@ -125,12 +125,10 @@ class Plot:
         for exponent in range(self.y_low, self.y_high + 1):
             _, y = self.at(xs[0], 10 ** exponent)
             self.parts.append(f'<line x1="{left}" y1="{y:.1f}" x2="{right}" y2="{y:.1f}" stroke="#ddd"/>')
-            self.text(left - 30, y + 4, f"{10 ** exponent:,}")
+            self.text(left - 30, y + 4, f"{10 ** (exponent % 3)} {('us', 'ms', 's')[exponent // 3]}")
         for x in xs:
             self.text(self.at(x, 10 ** self.y_low)[0], self.HEIGHT - self.MARGIN + 18, x)
         self.text(self.WIDTH / 2, self.HEIGHT - 12, "characters of the old text and of the new one")
-        self.text(16, self.HEIGHT / 2, "microseconds",
-                  f'transform="rotate(-90 16 {self.HEIGHT // 2})"')
 
     def draw_curve(self, color, label, points):
         places = [self.at(x, y) for x, y in points]
