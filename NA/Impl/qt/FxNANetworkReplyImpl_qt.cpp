@@ -51,8 +51,8 @@ static_assert(int(Ours::UnknownServerError) == int(Qts::UnknownServerError));
 
 // Kept for form; no operation reads it. Intended.
 using RawHeaderPairs = QList<QPair<QByteArray, QByteArray>>;
-[[maybe_unused]] const RawHeaderPairs
-    g_emptyRawHeaderPairsList; // clazy:exclude=non-pod-global-static
+[[maybe_unused]] const RawHeaderPairs // clazy:exclude=non-pod-global-static
+    g_emptyRawHeaderPairsList;
 
 // QNetworkReply::error, not errorOccurred: Qt repeats the one as the other, and a reply of a class
 // that knows the old signal alone is heard, too.
