@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Runs a benchmark program and prints each row as a ratio to bare Qt.
+"""Runs bench_controls and prints each row as a ratio to bare Qt.
 
-Usage: ratios.py BENCH_PROGRAM [--runs N] [--wall] [--compact] [--plot FILE.svg]
+Usage: report.py BENCH_CONTROLS [--runs N] [--compact] [--plot FILE.svg]
 
 Each run is a process of its own, so that a lucky or unlucky layout of memory shows as a range. A
 row's ratio is taken within a run, and the median over the runs is printed.
@@ -24,51 +24,35 @@ def run_program(program):
     return json.loads(result.stdout)["benchmarks"]
 
 
-def peers_of(row, clock):
-    """The entries (name, peer, nanoseconds) that a benchmark stands for."""
-    if "ratio" in row:  # measured in turns: the median over the pairs is what holds
-        return [(row["name"], "qt", row["qt"]), (row["name"], "commonui", row["qt"] * row["ratio"])]
-    name, _, peer = row["name"].replace("/real_time", "").rpartition("/")
-    return [(name, peer, row[clock])]
-
-
-def measure(program, runs, clock):
-    """A list for each run: {name: {peer: time}}."""
+def measure(program, runs):
+    """The rows of each run: [{name: row}]."""
     measured = []
     for number in range(runs):
         print(f"run {number + 1} of {runs}, may take a minute ...", file=sys.stderr)
-        times = collections.defaultdict(dict)
-        for row in run_program(program):
+        rows = {row["name"]: row for row in run_program(program)}
+        for name, row in rows.items():
             if row.get("error_occurred"):
-                sys.exit(f"{row['name']}: {row['error_message']}")
-            for name, peer, time in peers_of(row, clock):
-                times[name][peer] = time
-        measured.append(times)
+                sys.exit(f"{name}: {row['error_message']}")
+        measured.append(rows)
     return measured
 
 
 class Row:
-    """A peer of a row against bare Qt: medians over the runs, and the range of the ratio."""
+    """A row's medians over the runs, in nanoseconds, and the range of its ratio."""
 
-    def __init__(self, name, peer, measured):
-        times = [(run[name][peer], run[name]["qt"]) for run in measured]
-        ratios = [time / qt for time, qt in times]
-        self.name, self.peer = name, peer
-        self.qt = statistics.median(qt for _, qt in times)
+    def __init__(self, name, measured):
+        ratios = [run[name]["ratio"] for run in measured]
+        self.name = name
+        self.qt = statistics.median(run[name]["qt"] for run in measured)
         self.ratio, self.low, self.high = statistics.median(ratios), min(ratios), max(ratios)
-        self.extra = statistics.median(time - qt for time, qt in times)
-
-
-def rows_of(measured):
-    return [Row(name, peer, measured) for name, peers in measured[0].items() if "qt" in peers
-            for peer in peers if peer != "qt"]
+        self.extra = statistics.median(run[name]["qt"] * (run[name]["ratio"] - 1) for run in measured)
 
 
 def print_rows(rows):
-    print(f"{'row':48} {'peer':9} {'Qt, ns':>10} {'ratio':>7}  {'range':11} {'more, ns':>10}")
+    print(f"{'control/group/row':50} {'Qt, ns':>10} {'ratio':>7}  {'range':11} {'more, ns':>10}")
     for row in rows:
-        print(f"{row.name:48} {row.peer:9} {row.qt:10.0f} {row.ratio:7.2f}  "
-              f"{row.low:.2f}-{row.high:<6.2f} {row.extra:+10.0f}")
+        print(f"{row.name:50} {row.qt:10.0f} {row.ratio:7.2f}  {row.low:.2f}-{row.high:<6.2f} "
+              f"{row.extra:+10.0f}")
 
 
 def print_compact(rows):
@@ -76,8 +60,7 @@ def print_compact(rows):
     are left out."""
     lines = collections.defaultdict(list)
     for row in (row for row in rows if not row.name.startswith(CURVE)):
-        parts = row.name.split("/", 2)
-        control, group, name = parts if len(parts) == 3 else ("", row.peer, row.name)
+        control, group, name = row.name.split("/", 2)
         lines[group, control].append(f"{name} {row.ratio:.2f} ({row.extra:+.0f})")
     for group in dict.fromkeys(group for group, _ in lines):
         print(f"\n| {group} | ratio to Qt (ns more) |\n|---|---|")
@@ -146,19 +129,15 @@ class Plot:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("program", help="the built program, bench_controls for one")
-    parser.add_argument("--runs", type=int, default=5, help="processes to run (default: 5)")
-    parser.add_argument("--wall", action="store_true", help="compare wall time, not processor time")
-    parser.add_argument("--compact", action="store_true", help="print a Markdown table")
+    parser.add_argument("program", help="the built program bench_controls")
+    parser.add_argument("--runs", type=int, default=3, help="processes to run (default: 3)")
+    parser.add_argument("--compact", action="store_true", help="print Markdown tables")
     parser.add_argument("--plot", metavar="FILE.svg", help="plot setText of a text view")
     arguments = parser.parse_args()
-    measured = measure(arguments.program, arguments.runs,
-                       "real_time" if arguments.wall else "cpu_time")
-    rows = rows_of(measured)
+    measured = measure(arguments.program, arguments.runs)
+    rows = [Row(name, measured) for name in measured[0]]
     (print_compact if arguments.compact else print_rows)(rows)
     if arguments.plot:
-        if not any(row.name.startswith(CURVE) for row in rows):
-            sys.exit("this program has no rows to plot")
         Plot(curves(rows)).write(arguments.plot)
 
 
