@@ -3,6 +3,8 @@
 #include "UI/FxUIDialog.h"
 #include "UI/FxUIPushButton.h"
 
+#include <array>
+
 CFxUIDialogButtonBoxImpl::CFxUIDialogButtonBoxImpl(CFxUIDialogButtonBox *box, CFxUIDialog *dialog)
     : CFxUIBaseViewImpl(box)
     , m_accepted(box)
@@ -16,7 +18,7 @@ CFxUIDialogButtonBoxImpl::CFxUIDialogButtonBoxImpl(CFxUIDialogButtonBox *box, CF
 
 CFxUIDialogButtonBoxImpl::~CFxUIDialogButtonBoxImpl()
 {
-    CFxUIPushButton *const wrappers[] = { m_okButton, m_cancelButton, m_helpButton };
+    const std::array<CFxUIPushButton *, 3> wrappers { m_okButton, m_cancelButton, m_helpButton };
     for (CFxUIPushButton *wrapper : wrappers) {
         if (wrapper)
             wrapper->setHandle(nullptr);

@@ -12,9 +12,9 @@ CFxUIObjectImpl::~CFxUIObjectImpl()
     CutFrontend();
 }
 
-void CFxUIObjectImpl::EndWithThis(std::function<void()> task)
+void CFxUIObjectImpl::EndWithThis(const std::function<void()> &task)
 {
-    m_tasks.append(std::move(task));
+    m_tasks.append(task);
 }
 
 void CFxUIObjectImpl::CutFrontend()

@@ -38,7 +38,7 @@ public:
     /// Runs \a task, which cuts a Qt object's way to this object, when this object dies, whatever
     /// has become of the handle by then: a Qt object outlives it until the event loop next runs,
     /// and for ever where nobody deletes it.
-    void EndWithThis(std::function<void()> task);
+    void EndWithThis(const std::function<void()> &task);
 
     CFxUIObject *owner;
 
