@@ -12,12 +12,14 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::always_inline]] inline void
 signal_base<SignalTraits, Allocator, R(Args...)>::emit_unless_idle(Args &...args)
 {
-    if (pending.size() == 1 && m_offset == 0 && depth == 0)
+    if (pending.empty()) {
+        if ((m_size | m_offset) != 0)
+            check_empty();
+    } else if (pending.size() == 1 && m_offset == 0 && depth == 0) {
         call_only_slot(args...);
-    else if (!pending.empty())
+    } else {
         call_slots(args...);
-    else if ((m_size | m_offset) != 0)
-        check_empty();
+    }
 }
 
 /// An emission without records, which can only fail.
