@@ -7,60 +7,39 @@
 
 namespace {
 
-// The children of a dying object that left it alive, which a sibling's destructor may make them do.
-// They die in their turn all the same; one that dies before takes itself out.
-struct Departures {
-    const CFxUIObject *parent;
-    QList<CFxUIObject *> departed;
-    Departures *outer;
+// The children that a dying object is about to delete. One that dies before, in a sibling's
+// destructor, takes itself out; one that such a destructor moves to another parent stays in.
+struct Walk {
+    QList<CFxUIObject *> children;
+    Walk *outer;
 };
 
-Departures *innermostDepartures = nullptr;
+Walk *innermostWalk = nullptr;
 
-// Returns the parent that was left, null if there was none.
-CFxUIObject *LeaveParent(CFxUIObject *object)
+void LeaveWalks(CFxUIObject *object)
 {
-    CFxUIObject *const parent = object->data->parent();
-    if (parent)
-        parent->data->removeChild(object);
-    object->data->setParent(nullptr);
-    return parent;
+    for (Walk *walk = innermostWalk; walk; walk = walk->outer)
+        walk->children.removeAll(object);
 }
 
-void NoteDeparture(const CFxUIObject *parent, CFxUIObject *child)
-{
-    for (Departures *noted = innermostDepartures; noted; noted = noted->outer) {
-        if (noted->parent == parent)
-            noted->departed.append(child);
-    }
-}
-
-void NoteDeath(CFxUIObject *object)
-{
-    for (Departures *noted = innermostDepartures; noted; noted = noted->outer) {
-        if (!noted->departed.isEmpty())
-            noted->departed.removeAll(object);
-    }
-}
-
-// From a copy of the list: each child takes itself out of the list in the record as it dies. One
-// that a sibling's destructor has deleted meanwhile is gone already; one that came meanwhile isn't
-// the parent's to delete any more and is let go.
 void DeleteChildren(CFxUIObject *parent)
 {
-    const QList<CFxUIObject *> children = parent->children();
-    if (children.isEmpty())
-        return;
-    Departures noted { parent, {}, innermostDepartures };
-    innermostDepartures = &noted;
-    for (CFxUIObject *child : children) {
-        if (parent->data->indexOf(child) >= 0 || noted.departed.contains(child))
-            delete child;
+    Walk walk { parent->children(), innermostWalk };
+    innermostWalk = &walk;
+    while (!walk.children.isEmpty()) {
+        CFxUIObject *const child = walk.children.takeFirst();
+        delete child;
+        parent->data->removeChild(child); // one that was listed without knowing its parent
     }
-    innermostDepartures = noted.outer;
+    innermostWalk = walk.outer;
+}
+
+// A child that comes while its parent dies isn't the parent's to delete any more.
+void LetGoOfLateChildren(CFxUIObject *parent)
+{
     const QList<CFxUIObject *> late = parent->children();
     for (CFxUIObject *child : late) {
-        if (child && !children.contains(child))
+        if (child)
             child->setParent(nullptr);
     }
 }
@@ -74,11 +53,12 @@ CFxUIObject::CFxUIObject()
 
 CFxUIObject::~CFxUIObject()
 {
-    LeaveParent(this);
-    NoteDeath(this);
+    setParent(nullptr);
+    LeaveWalks(this);
     delete impl;
     impl = nullptr;
     DeleteChildren(this);
+    LetGoOfLateChildren(this);
     delete data;
 }
 
@@ -126,8 +106,8 @@ CFxUIObject *CFxUIObject::parent() const
 
 void CFxUIObject::setParent(CFxUIObject *parent)
 {
-    if (const CFxUIObject *const former = LeaveParent(this))
-        NoteDeparture(former, this);
+    if (data->parent())
+        data->parent()->data->removeChild(this);
     data->setParent(parent);
     if (parent)
         parent->data->addChild(this);
