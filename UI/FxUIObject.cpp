@@ -28,8 +28,9 @@ void DeleteChildren(CFxUIObject *parent)
     innermostWalk = &walk;
     while (!walk.children.isEmpty()) {
         CFxUIObject *const child = walk.children.takeFirst();
+        if (child && child->parent() != parent)
+            parent->data->removeChild(child); // it won't know to leave the list as it dies
         delete child;
-        parent->data->removeChild(child); // one that was listed without knowing its parent
     }
     innermostWalk = walk.outer;
 }

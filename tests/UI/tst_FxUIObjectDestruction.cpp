@@ -21,6 +21,7 @@ private Q_SLOTS:
     void childMovedByASiblingDuringDestructionIsDeletedInItsTurn();
     void childMovedAndDeletedDuringDestructionDiesOnce();
     void childAddedDuringDestructionIsNotDeleted();
+    void childThatOnlyTheRecordListsDiesWithItsList();
     void nullInTheListOfChildrenIsLeftOut();
     void constructorThatThrowsFreesTheImplementation();
     void cyclesAreNotRefused();
@@ -156,6 +157,18 @@ void tst_FxUIObjectDestruction::childAddedDuringDestructionIsNotDeleted()
     QVERIFY(!log.contains(QStringLiteral("late gone")));
     QVERIFY(!late->parent());
     delete late;
+}
+
+void tst_FxUIObjectDestruction::childThatOnlyTheRecordListsDiesWithItsList()
+{
+    QStringList log;
+    auto *parent = new ObjectProbe(QStringLiteral("parent"), &log);
+    auto *child = new ObjectProbe(QStringLiteral("child"), &log);
+    parent->data->addChild(child);
+    delete parent;
+    QCOMPARE(log,
+             (QStringList { QStringLiteral("parent gone"), QStringLiteral("parent impl gone"),
+                            QStringLiteral("child gone"), QStringLiteral("child impl gone") }));
 }
 
 void tst_FxUIObjectDestruction::nullInTheListOfChildrenIsLeftOut()
