@@ -141,7 +141,7 @@ protected:
     slot_id prepare_connection()
     {
         if (!holder)
-            make_holder();
+            holder = std::make_shared<storage_holder>(this);
         detail::verify(
             last_id < std::numeric_limits<slot_id>::max() - 1,
             "last_id < std::numeric_limits<slot_id>::max() - 1 && \"All available slot ids "
@@ -257,7 +257,6 @@ private:
     void call_by_index(size_type next, size_type end, handed<Args>... args);
     void leave_moved(const slot_type *first, const slot_type *slot) noexcept;
 
-    void make_holder();
     connection append(function_type &&function);
     connection connect_growing(function_type &&function);
     bool mostly_dead() const noexcept;

@@ -20,16 +20,9 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::release_outgrown() noexce
     }
 }
 
-/// Kept out of connect(), which needs it once.
 template <class SignalTraits, class Allocator, class R, class... Args>
-[[gnu::noinline]] void signal_base<SignalTraits, Allocator, R(Args...)>::make_holder()
-{
-    holder = std::make_shared<storage_holder>(this);
-}
-
-template <class SignalTraits, class Allocator, class R, class... Args>
-[[gnu::always_inline]] inline auto
-signal_base<SignalTraits, Allocator, R(Args...)>::append(function_type &&function) -> connection
+auto signal_base<SignalTraits, Allocator, R(Args...)>::append(function_type &&function)
+    -> connection
 {
     const slot_id id = prepare_connection();
     pending.emplace_back(id, std::move(function));
