@@ -12,14 +12,14 @@ CFxUIObjectImpl::~CFxUIObjectImpl()
     CutFrontend();
 }
 
-void CFxUIObjectImpl::EndWithThis(const std::function<void()> &task)
+void CFxUIObjectImpl::EndWithThis(std::function<void()> task)
 {
-    m_tasks.append(task);
+    m_tasks.push_back(std::move(task));
 }
 
 void CFxUIObjectImpl::CutFrontend()
 {
-    const QList<std::function<void()>> tasks = std::exchange(m_tasks, {});
+    const std::vector<std::function<void()>> tasks = std::exchange(m_tasks, {});
     for (const std::function<void()> &task : tasks)
         task();
 }

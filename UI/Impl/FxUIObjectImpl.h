@@ -2,11 +2,11 @@
 
 #include "UI/FxUIExport.h"
 
-#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <functional>
+#include <vector>
 
 class CFxUIObject;
 
@@ -38,7 +38,7 @@ public:
     /// Runs \a task, which cuts a Qt object's way to this object, when this object dies, whatever
     /// has become of the handle by then: a Qt object outlives it until the event loop next runs,
     /// and for ever where nobody deletes it.
-    void EndWithThis(const std::function<void()> &task);
+    void EndWithThis(std::function<void()> task);
 
     CFxUIObject *owner;
 
@@ -47,5 +47,5 @@ protected:
     /// whose own signals a frontend emits: they are gone before this class's destructor runs.
     void CutFrontend();
 
-    QList<std::function<void()>> m_tasks;
+    std::vector<std::function<void()>> m_tasks;
 };
