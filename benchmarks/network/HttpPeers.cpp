@@ -1,12 +1,12 @@
 #include "HttpPeers.h"
 
+#include "Batch.h"
 #include "NA/FxNANetworkAccessManager.h"
 #include "NA/FxNANetworkReply.h"
 #include "NA/FxNANetworkRequest.h"
 
 #include <curl/curl.h>
 
-#include <QtCore/QEventLoop>
 #include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryFile>
@@ -21,58 +21,18 @@ namespace {
 
 constexpr int Timeout = 30000; // milliseconds
 
-// Keeps so many transfers running until all are done.
-class Transfers {
+class Transfers : public Batch {
 public:
     Transfers(QString url, qint64 size, int atOnce)
-        : m_url(std::move(url))
+        : Batch(atOnce)
+        , m_url(std::move(url))
         , m_size(size)
-        , m_atOnce(atOnce)
     {
-    }
-
-    virtual ~Transfers() = default;
-
-    Transfers(const Transfers &) = delete;
-    Transfers &operator=(const Transfers &) = delete;
-
-    bool Run(int operations)
-    {
-        m_good = true;
-        m_toStart = operations;
-        m_toEnd = operations;
-        for (int i = 0; i < m_atOnce; ++i)
-            StartNext();
-        m_loop.exec();
-        return m_good;
     }
 
 protected:
-    virtual void Start() = 0;
-
-    void Ended(bool good)
-    {
-        m_good = m_good && good;
-        StartNext();
-        if (--m_toEnd == 0)
-            m_loop.quit();
-    }
-
     QString m_url;
     qint64 m_size;
-
-private:
-    void StartNext()
-    {
-        if (m_toStart-- > 0)
-            Start();
-    }
-
-    int m_atOnce;
-    int m_toStart = 0;
-    int m_toEnd = 0;
-    bool m_good = true;
-    QEventLoop m_loop;
 };
 
 class CommonUITransfers : public Transfers {
@@ -246,23 +206,16 @@ bool RunCurlCommand(const QString &url, qint64 size, int operations, int atOnce)
         == QByteArray(QByteArray::number(size) + '\n').repeated(operations);
 }
 
-template <class Side>
-Peer MakePeer(const char *name, const QString &url, qint64 size, int operations, int atOnce)
-{
-    const auto side = std::make_shared<Side>(url, size, atOnce);
-    return { name, operations, true, [side](int count) { return side->Run(count); } };
-}
-
 } // namespace
 
 std::vector<Peer> HttpPeers(const QString &url, qint64 size, int operations, int atOnce)
 {
     std::vector<Peer> peers {
-        MakePeer<QtTransfersWithTimer>("qt", url, size, operations, atOnce),
-        MakePeer<CommonUITransfers>("commonui", url, size, operations, atOnce),
-        MakePeer<QtTransfers>("qt_no_timer", url, size, operations, atOnce),
-        MakePeer<QtTransfersWithTransferTimeout>("qt_own_timeout", url, size, operations, atOnce),
-        MakePeer<CurlTransfers>("libcurl", url, size, operations, atOnce),
+        MakePeer<QtTransfersWithTimer>("qt", operations, url, size, atOnce),
+        MakePeer<CommonUITransfers>("commonui", operations, url, size, atOnce),
+        MakePeer<QtTransfers>("qt_no_timer", operations, url, size, atOnce),
+        MakePeer<QtTransfersWithTransferTimeout>("qt_own_timeout", operations, url, size, atOnce),
+        MakePeer<CurlTransfers>("libcurl", operations, url, size, atOnce),
     };
     if (!QStandardPaths::findExecutable(QStringLiteral("curl")).isEmpty()) {
         peers.push_back({ "curl", operations, false,
