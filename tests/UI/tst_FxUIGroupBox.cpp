@@ -2,6 +2,7 @@
 
 #include "support/ControlContract.h"
 #include "support/EventRecorder.h"
+#include "support/Events.h"
 #include "support/TestMain.h"
 #include "UI/FxUILabel.h"
 #include "UI/FxUIRadioGroup.h"
@@ -73,18 +74,6 @@ struct Watched {
     EventRecorder log { [this] {
         return box->isCollapsed() ? QStringLiteral("collapsed") : QStringLiteral("open");
     } };
-};
-
-// Counts the requests for a repaint that reach a widget.
-class UpdateCounter : public QObject {
-public:
-    int updates = 0;
-
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        updates += event->type() == QEvent::UpdateRequest ? 1 : 0;
-        return false;
-    }
 };
 
 } // namespace

@@ -430,17 +430,6 @@ void tst_FxUIImageView::sizeChangeUpdatesThroughTheVirtualOperation()
 
 void tst_FxUIImageView::hostsWidgetIsNotUpdatedAndGoesWithTheEventLoop()
 {
-    class UpdateCounter : public QObject {
-    public:
-        int updates = 0;
-
-        bool eventFilter(QObject * /*watched*/, QEvent *event) override
-        {
-            updates += event->type() == QEvent::UpdateRequest ? 1 : 0;
-            return false;
-        }
-    };
-
     const QPointer<QWidget> canvas(new QWidget);
     auto view = std::make_unique<PaintingView>();
     view->setHandle(canvas);
