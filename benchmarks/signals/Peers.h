@@ -9,6 +9,7 @@
 #include <QtCore/QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -59,6 +60,51 @@ public:
 
 private:
     Signal m_signal;
+};
+
+/// What a signal costs through its fields alone: the same ones in the same places, and a plain loop
+/// that reads and writes what an emission has to, and minds nothing else.
+template <class Arg> class SameRecords {
+public:
+    using Handle = std::size_t;
+
+    template <class Slot> Handle connect(Slot slot)
+    {
+        if (!m_holder)
+            m_holder = std::make_shared<SameRecords *>(this);
+        m_records.emplace_back(m_nextId++, std::move(slot));
+        ++m_size;
+        return m_records.size() - 1;
+    }
+
+    void disconnect(Handle handle)
+    {
+        m_records[handle].active = false;
+        m_records[handle].function = nullptr;
+        --m_size;
+    }
+
+    void emit(Arg argument)
+    {
+        ++m_depth;
+        for (auto &record : m_records) {
+            if (!record.active)
+                continue;
+            record.running = true;
+            record.function(argument);
+            record.running = false;
+        }
+        --m_depth;
+        m_offset = 0;
+    }
+
+private:
+    std::vector<slimsig::basic_slot<void(Arg), unsigned long>> m_records;
+    std::shared_ptr<SameRecords *> m_holder;
+    unsigned long m_nextId = 0;
+    std::uint64_t m_size = 0;
+    std::uint64_t m_offset = 0;
+    std::uint32_t m_depth = 0;
 };
 
 template <class Arg, class Signal> class BoostPeer {

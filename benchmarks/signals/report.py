@@ -20,7 +20,7 @@ import sys
 import tempfile
 
 FLOOR = "floor"
-PEERS = ["slimsig", "boost", "boost, no mutex", "sigc++", "Qt"]
+PEERS = ["slimsig", "same records", "boost", "boost, no mutex", "sigc++", "Qt"]
 
 # What slimsig is meant to keep, as a ratio to the floor.
 LIMITS = {

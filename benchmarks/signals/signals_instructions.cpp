@@ -1,4 +1,4 @@
-// Emits a thousand times to as many slots as the argument says, for instructions.py, which counts
+// Emits a thousand times to as many slots as the argument says, for report.py, which counts
 // the instructions between the call of emitOnce and its return.
 
 #include "UI/slimsig/detail/signal_base.h"

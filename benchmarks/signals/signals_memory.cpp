@@ -77,6 +77,7 @@ int main()
 {
     printPeer<Floor<int>>("floor");
     printPeer<Slimsig<int>>("slimsig");
+    printPeer<SameRecords<int>>("same records");
     printPeer<Boost<int>>("boost");
     printPeer<BoostDummy<int>>("boost, no mutex");
     printPeer<Sigc<int>>("sigc++");

@@ -193,13 +193,16 @@ TEST(SignalLifetime, ASlotConnectedWhileTheSignalIsDestroyedGoesWithIt)
 
 TEST(SignalLifetime, TheSlotsOfADestroyedSignalEndFirstToLast)
 {
-    std::string ends;
-    {
-        VoidProbe signal;
-        for (const char name : { 'a', 'b', 'c' })
-            signal.connect(slotEndingWith([&ends, name] { ends += name; }));
+    const std::string names = "abcdefghijk";
+    for (std::size_t count = 0; count <= names.size(); ++count) {
+        std::string ends;
+        {
+            VoidProbe signal;
+            for (const char name : names.substr(0, count))
+                signal.connect(slotEndingWith([&ends, name] { ends += name; }));
+        }
+        EXPECT_EQ(ends, names.substr(0, count));
     }
-    EXPECT_EQ(ends, "abc");
 }
 
 TEST(SignalLifetime, DestructionLooksNeitherAtDepthNorAtRunning)

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -103,6 +105,87 @@ TEST(SignalReentrancy, TheLastSlotMayMakeTheArrayGrowToo)
     signal.emit();
     EXPECT_EQ(seen, text);
     EXPECT_TRUE(signal.isTidy());
+}
+
+std::vector<int> indexesFrom(int first, int end)
+{
+    std::vector<int> indexes(static_cast<std::size_t>(std::max(end - first, 0)));
+    std::iota(indexes.begin(), indexes.end(), first);
+    return indexes;
+}
+
+/// Makes the array move by connecting, which a full one does at once.
+template <class Probe> void moveArray(Probe &signal)
+{
+    const auto *const before = signal.pending.data();
+    while (signal.pending.data() == before)
+        signal.connect([](auto...) {});
+}
+
+/// Emits to \a count slots, of which \a mover makes the array move and disconnects \a dropped.
+void emitWhileMoving(int count, int mover, int dropped)
+{
+    SCOPED_TRACE(testing::Message()
+                 << count << " slots, moved by " << mover << ", without " << dropped);
+    SignalProbe<void(std::string)> signal;
+    std::vector<slimsig::connection<void(std::string)>> connections;
+    std::vector<int> calls;
+    for (int i = 0; i < count; ++i) {
+        connections.push_back(signal.connect([&, i](const std::string &text) {
+            EXPECT_EQ(text, "text");
+            for (int other = 0; other < count; ++other)
+                EXPECT_EQ(signal.pending[static_cast<std::size_t>(other)].running, other == i);
+            calls.push_back(i);
+            if (i != mover)
+                return;
+            moveArray(signal);
+            connections[static_cast<std::size_t>(dropped)].disconnect();
+        }));
+    }
+    signal.emit("text");
+    std::vector<int> expected = indexesFrom(0, count);
+    if (dropped > mover)
+        expected.erase(expected.begin() + dropped);
+    EXPECT_EQ(calls, expected);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, WhicheverSlotMovesTheArrayEachOtherIsCalledOnce)
+{
+    for (int count = 1; count <= 6; ++count) {
+        for (int mover = 0; mover < count; ++mover) {
+            for (int dropped = 0; dropped < count; ++dropped)
+                emitWhileMoving(count, mover, dropped);
+        }
+    }
+}
+
+TEST(SignalReentrancy, WhenANestedEmissionMovesTheArrayTheOuterOneGoesOnBehindItsSlot)
+{
+    constexpr int count = 5;
+    for (int outer = 0; outer < count; ++outer) {
+        for (int mover = 0; mover < count; ++mover) {
+            SCOPED_TRACE(testing::Message() << outer << " emits, " << mover << " moves");
+            VoidProbe signal;
+            std::vector<int> calls;
+            for (int i = 0; i < count; ++i) {
+                signal.connect([&, i] {
+                    calls.push_back(i);
+                    if (signal.depth == 1 && i == outer)
+                        signal.emit();
+                    else if (signal.depth == 2 && i == mover)
+                        moveArray(signal);
+                });
+            }
+            signal.emit();
+            std::vector<int> expected = indexesFrom(0, outer + 1);
+            for (const std::vector<int> &more :
+                 { indexesFrom(0, count), indexesFrom(outer + 1, count) })
+                expected.insert(expected.end(), more.begin(), more.end());
+            EXPECT_EQ(calls, expected);
+            EXPECT_TRUE(signal.isTidy());
+        }
+    }
 }
 
 TEST(SignalReentrancy, OutgrownArraysStayWhileAnyOuterCallRuns)

@@ -45,8 +45,8 @@ private:
     friend signal_type;
 
     connection(const std::shared_ptr<signal_holder> &holder, slot_id id) noexcept
-        : m_watched(holder)
-        , m_holder(holder.get())
+        : m_holder(holder.get())
+        , m_watched(holder)
         , m_id(id)
     {
     }
@@ -58,8 +58,8 @@ private:
         return m_watched.expired() ? nullptr : m_holder->signal;
     }
 
-    std::weak_ptr<signal_holder> m_watched;
     signal_holder *m_holder = nullptr;
+    std::weak_ptr<signal_holder> m_watched;
     slot_id m_id = 0;
 };
 

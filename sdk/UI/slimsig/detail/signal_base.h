@@ -14,7 +14,6 @@
 #include <memory>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 // Qt defines emit as an empty macro. It stays as it was found.
 #pragma push_macro("emit")
@@ -103,7 +102,7 @@ public:
     bool empty() const noexcept { return m_size == 0; }
 
 protected:
-    using slot_array = std::vector<slot_type>;
+    using slot_array = detail::slot_array<slot_type>;
 
     /// Counts an emission in and out, and tidies up when the outermost one ends.
     class emit_scope {
@@ -216,8 +215,7 @@ private:
         signal_base &signal;
     };
 
-    /// Marks a record as running, also when an exception leaves it. The record is told by its place
-    /// in the array, which may move meanwhile.
+    /// Marks a record as running until its callable has returned or thrown.
     class running_scope {
     public:
         running_scope(signal_base &emitted, slot_type *array, slot_type *called) noexcept
@@ -233,16 +231,22 @@ private:
 
         [[gnu::always_inline]] ~running_scope()
         {
-            if (signal.stands_at(first))
-                slot->running = false;
-            else
-                signal.leave_moved(first, slot);
+            if (!returned)
+                signal.leave(first, slot);
+        }
+
+        /// Ends a call that has not thrown. Whether the array has moved is left to the walk.
+        void end() noexcept
+        {
+            slot->running = false;
+            returned = true;
         }
 
     private:
         signal_base &signal;
         slot_type *const first;
         slot_type *const slot;
+        bool returned = false;
     };
 
     void emit_unless_idle(Args &...args);
@@ -255,13 +259,15 @@ private:
     void call_moved(const slot_type *first, const slot_type *slot, const slot_type *last,
                     handed<Args>... args);
     void call_by_index(size_type next, size_type end, handed<Args>... args);
+    template <class... Passed> void call_at(size_type index, Passed &&...passed);
+    void leave(slot_type *first, slot_type *slot) noexcept;
     void leave_moved(const slot_type *first, const slot_type *slot) noexcept;
 
     connection append(function_type &&function);
     connection connect_growing(function_type &&function);
     bool mostly_dead() const noexcept;
-    slot_array grow();
-    slot_array copy_records();
+    void grow(slot_array &dropped);
+    bool copy_records(slot_array &copies);
     void release_outgrown() noexcept;
     void clean_up() noexcept;
     bool drop_dead_callables(const signal_holder &watched) noexcept;
@@ -271,7 +277,7 @@ private:
 
     void tidy_up() noexcept
     {
-        if (m_size == pending.size())
+        if (m_size * sizeof(slot_type) == pending.size_in_bytes())
             m_offset = 0;
         else
             clean_up();

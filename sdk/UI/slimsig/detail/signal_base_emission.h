@@ -15,7 +15,7 @@ signal_base<SignalTraits, Allocator, R(Args...)>::emit_unless_idle(Args &...args
     if (pending.empty()) {
         if ((m_size | m_offset) != 0)
             check_empty();
-    } else if (pending.size() == 1 && m_offset == 0 && depth == 0) {
+    } else if (pending.size() == 1 && (m_offset | depth) == 0) {
         call_only_slot(args...);
     } else {
         call_slots(args...);
@@ -36,13 +36,17 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_only_slot(handed<Args>...
 {
     const outermost_scope scope(*this);
     slot_type *const slot = pending.data();
-    if (__builtin_expect(slot->active, true))
+    if (__builtin_expect(slot->active, true)) {
         call_slot(slot, slot, std::forward<Args>(args)...);
+        if (!stands_at(slot))
+            leave_moved(slot, slot);
+    }
 }
 
 /// Walks by pointer, which is what most emissions are, and goes on by index once a slot has
-/// made the array move. The last slot is taken apart, as it may have the arguments for good.
-/// Flattened, since a copy of an argument that is left a call of its own costs a tenth.
+/// made the array move: the outgrown records are inactive, so that the one test finds both. The
+/// last slot is taken apart, as it may have the arguments for good. Flattened, since a copy of an
+/// argument that is left a call of its own costs a tenth.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::flatten]] void
 signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... args)
@@ -54,14 +58,18 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... arg
     slot_type *const last = &pending.back();
     slot_type *slot = first;
     for (; slot != last; ++slot) {
-        if (!slot->active)
-            continue;
-        call_slot(first, slot, args...);
-        if (!stands_at(first))
+        if (__builtin_expect(slot->active, true))
+            call_slot(first, slot, args...);
+        else if (!stands_at(first))
             return call_moved(first, slot, last, args...);
     }
-    if (__builtin_expect(slot->active, true))
+    if (__builtin_expect(slot->active, true)) {
         call_slot(first, slot, std::forward<Args>(args)...);
+        if (!stands_at(first))
+            leave_moved(first, slot);
+    } else if (!stands_at(first)) {
+        call_moved(first, slot, last, args...);
+    }
 }
 
 template <class SignalTraits, class Allocator, class R, class... Args>
@@ -70,8 +78,9 @@ template <class... Passed>
 signal_base<SignalTraits, Allocator, R(Args...)>::call_slot(slot_type *first, slot_type *slot,
                                                             Passed &&...passed)
 {
-    const running_scope running(*this, first, slot);
+    running_scope running(*this, first, slot);
     slot->function(std::forward<Passed>(passed)...);
+    running.end();
 }
 
 template <class SignalTraits, class Allocator, class R, class... Args>
@@ -81,11 +90,15 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_behind_offset(handed<Args
     call_by_index(m_offset, pending.size(), args...);
 }
 
+/// Goes on with \a slot, which the call of the one before it has made the array leave.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] void signal_base<SignalTraits, Allocator, R(Args...)>::call_moved(
     const slot_type *first, const slot_type *slot, const slot_type *last, handed<Args>... args)
 {
-    call_by_index(index_of(first, slot) + 1, index_of(first, last) + 1, args...);
+    const size_type next = index_of(first, slot);
+    const size_type end = index_of(first, last) + 1;
+    leave_moved(first, slot - 1);
+    call_by_index(next, end, args...);
 }
 
 template <class SignalTraits, class Allocator, class R, class... Args>
@@ -95,12 +108,33 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::call_by_index(size_type n
     detail::verify(next <= end, "m_offset <= end");
     if (next == end)
         return;
-    for (const size_type last = index_of_last(end); next != last; ++next) {
-        if (pending[next].active)
-            call_slot(pending.data(), &pending[next], args...);
-    }
-    if (pending[next].active)
-        call_slot(pending.data(), &pending[next], std::forward<Args>(args)...);
+    for (const size_type last = index_of_last(end); next != last; ++next)
+        call_at(next, args...);
+    call_at(next, std::forward<Args>(args)...);
+}
+
+template <class SignalTraits, class Allocator, class R, class... Args>
+template <class... Passed>
+void signal_base<SignalTraits, Allocator, R(Args...)>::call_at(size_type index, Passed &&...passed)
+{
+    slot_type *const first = pending.data();
+    slot_type *const slot = first + index;
+    if (!slot->active)
+        return;
+    call_slot(first, slot, std::forward<Passed>(passed)...);
+    if (!stands_at(first))
+        leave_moved(first, slot);
+}
+
+/// Ends a call that has thrown.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] void
+signal_base<SignalTraits, Allocator, R(Args...)>::leave(slot_type *first, slot_type *slot) noexcept
+{
+    if (stands_at(first))
+        slot->running = false;
+    else
+        leave_moved(first, slot);
 }
 
 /// Ends a call that has moved the array. In the outermost emission no callable runs any more,

@@ -44,7 +44,7 @@ signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(function_type 
         if (pending.empty()) {
             pending.reserve(1);
         } else {
-            dropped = grow();
+            grow(dropped);
             if (depth == 0)
                 release_outgrown();
         }
@@ -65,38 +65,43 @@ bool signal_base<SignalTraits, Allocator, R(Args...)>::mostly_dead() const noexc
     return dead == static_cast<std::size_t>(inactive);
 }
 
+/// Goes over to an array twice as long. In an emission the outgrown one stays, and its records turn
+/// inactive, so that a walk over them finds out before it calls the next one.
 template <class SignalTraits, class Allocator, class R, class... Args>
-auto signal_base<SignalTraits, Allocator, R(Args...)>::grow() -> slot_array
+void signal_base<SignalTraits, Allocator, R(Args...)>::grow(slot_array &dropped)
 {
-    slot_array larger = copy_records();
-    if (depth > 0) {
-        outgrown().emplace_front();
-        outgrown().front().swap(pending);
+    slot_array other;
+    other.reserve(2 * pending.size());
+    if (!copy_records(other))
+        return;
+    if (depth == 0) {
+        other.swap(pending);
+        other.swap(dropped);
+        return;
     }
-    larger.swap(pending);
-    return larger;
+    outgrown().emplace_front();
+    other.swap(pending);
+    for (slot_type &slot : other)
+        slot.active = false;
+    other.swap(outgrown().front());
 }
 
-/// Copies the records into an array twice as long. Copying a callable runs code of its own,
-/// which may lead back to this signal; it counts as an emission meanwhile, so that every record
-/// stays in place.
+/// Copies the records. Copying a callable runs code of its own, which may lead back to this signal;
+/// it counts as an emission meanwhile, so that every record stays in place. Returns false where
+/// that code has connected: then it has found the array full and made room itself.
 template <class SignalTraits, class Allocator, class R, class... Args>
-auto signal_base<SignalTraits, Allocator, R(Args...)>::copy_records() -> slot_array
+bool signal_base<SignalTraits, Allocator, R(Args...)>::copy_records(slot_array &copies)
 {
-    slot_array copies;
-    copies.reserve(2 * pending.size());
     const copy_scope scope(*this);
-    const slot_id next_id = last_id;
-    const size_type connected = m_size;
     const slot_type *const first = pending.data();
-    copies.insert(copies.end(), first, first + pending.size());
-    if (last_id == next_id && m_size == connected)
-        return copies;
-    while (copies.size() < pending.size())
-        copies.push_back(pending[copies.size()]);
+    const slot_type *const end = first + pending.size();
+    for (const slot_type *slot = first; slot != end; ++slot)
+        copies.push_back(*slot);
+    if (!stands_at(first))
+        return false;
     for (std::size_t i = 0; i < copies.size(); ++i)
         copies[i].active = pending[i].active;
-    return copies;
+    return true;
 }
 
 /// Removes the dead records and keeps the order of the others. What a dead callable captured
