@@ -256,6 +256,7 @@ private:
     template <class... Passed>
     void call_slot(slot_type *first, slot_type *slot, Passed &&...passed);
     void call_behind_offset(handed<Args>... args);
+    bool has_left(const slot_type *first) const noexcept;
     void call_moved(const slot_type *first, const slot_type *slot, const slot_type *last,
                     handed<Args>... args);
     void call_by_index(size_type next, size_type end, handed<Args>... args);

@@ -12,10 +12,11 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::always_inline]] inline void
 signal_base<SignalTraits, Allocator, R(Args...)>::emit_unless_idle(Args &...args)
 {
-    if (pending.empty()) {
+    const std::size_t size = pending.size_in_bytes();
+    if (size == 0) {
         if ((m_size | m_offset) != 0)
             check_empty();
-    } else if (pending.size() == 1 && (m_offset | depth) == 0) {
+    } else if (size == sizeof(slot_type) && (m_offset | depth) == 0) {
         call_only_slot(args...);
     } else {
         call_slots(args...);
@@ -60,14 +61,14 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... arg
     for (; slot != last; ++slot) {
         if (__builtin_expect(slot->active, true))
             call_slot(first, slot, args...);
-        else if (!stands_at(first))
+        else if (has_left(first))
             return call_moved(first, slot, last, args...);
     }
     if (__builtin_expect(slot->active, true)) {
         call_slot(first, slot, std::forward<Args>(args)...);
         if (!stands_at(first))
             leave_moved(first, slot);
-    } else if (!stands_at(first)) {
+    } else if (has_left(first)) {
         call_moved(first, slot, last, args...);
     }
 }
@@ -88,6 +89,15 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 signal_base<SignalTraits, Allocator, R(Args...)>::call_behind_offset(handed<Args>... args)
 {
     call_by_index(m_offset, pending.size(), args...);
+}
+
+/// Returns whether the array has moved since it began at \a first. Asked where a slot is inactive,
+/// which is rare; out of line, it leaves the walk a loop without jumps.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] bool
+signal_base<SignalTraits, Allocator, R(Args...)>::has_left(const slot_type *first) const noexcept
+{
+    return !stands_at(first);
 }
 
 /// Goes on with \a slot, which the call of the one before it has made the array leave.
