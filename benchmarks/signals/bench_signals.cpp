@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::size_t batchSize = 16;
 constexpr std::size_t rowLength = 8;
+constexpr int mostKinds = 16;
 
 std::array<long, 64> counters {};
 
@@ -86,14 +87,30 @@ template <class Peer, class Text> void emitText(benchmark::State &state, const T
     benchmark::DoNotOptimize(counters);
 }
 
-template <class Peer> void emitManySignals(benchmark::State &state, std::size_t count)
+template <class Peer, int Kind> void connectKind(Peer &peer, std::size_t slot)
 {
+    peer.connect([counter = counterOf(slot)](int number) { *counter += number + Kind; });
+}
+
+template <class Peer, int... Kind> constexpr auto connectorsOf(std::integer_sequence<int, Kind...>)
+{
+    return std::array { &connectKind<Peer, Kind>... };
+}
+
+/// Emits by turns to \a count signals with eight slots each, which are callables of as many types
+/// as \a kinds says, at random. One type lets the processor foresee each call.
+template <class Peer>
+void emitManySignals(benchmark::State &state, std::size_t count, std::size_t kinds)
+{
+    constexpr auto connectors = connectorsOf<Peer>(std::make_integer_sequence<int, mostKinds>());
+    std::mt19937 random(1);
     std::vector<std::unique_ptr<Peer>> peers(count);
     for (auto &peer : peers) {
         peer = std::make_unique<Peer>();
-        connectCounters(*peer, 8);
+        for (std::size_t slot = 0; slot < 8; ++slot)
+            connectors[random() % kinds](*peer, slot);
     }
-    std::shuffle(peers.begin(), peers.end(), std::mt19937(1));
+    std::shuffle(peers.begin(), peers.end(), random);
     for (auto _ : state) {
         for (const auto &peer : peers)
             fire(*peer, 1);
@@ -175,8 +192,10 @@ template <template <class> class Peer> void registerPeer(const std::string &name
     registerRow("emit std::string to 8", name, emitText<Peer<std::string>, std::string>,
                 std::string(40, 'x'));
     for (const std::size_t count : { 1000u, 4000u }) {
-        registerRow("emit " + std::to_string(count) + " signals", name, emitManySignals<Peer<int>>,
-                    count);
+        const std::string row = "emit " + std::to_string(count) + " signals";
+        registerRow(row, name, emitManySignals<Peer<int>>, count, std::size_t(1));
+        registerRow(row + " of 16 kinds", name, emitManySignals<Peer<int>>, count,
+                    std::size_t(mostKinds));
     }
     registerRow("connect first", name, connectSlots<Peer<int>>, std::size_t(1))->UseManualTime();
     registerRow("connect 64", name, connectSlots<Peer<int>>, std::size_t(64))->UseManualTime();

@@ -31,7 +31,7 @@ LIMITS = {
 IDLE_NANOSECONDS = 1.5
 ROWS = ["emit to 0", "emit to 1", "emit to 8", "emit to 64", "emit to 1024", "emit nested",
         "emit QString to 8", "emit std::string to 8", "emit 1000 signals", "emit 4000 signals",
-        "connect first", "connect 64", "disconnect 64", "destroy 64", "construct and destroy"]
+        "emit 1000 signals of 16 kinds", "emit 4000 signals of 16 kinds", "connect first", "connect 64", "disconnect 64", "destroy 64", "construct and destroy"]
 INSTRUCTIONS = {0: 12, 8: 150}
 
 

@@ -332,6 +332,26 @@ TEST(SignalBase, AnActiveRecordWithoutFunctionThrowsBadFunctionCall)
     EXPECT_THROW(signal.emit(), std::bad_function_call) << "as the last one";
     EXPECT_FALSE(signal.pending[1].running);
     EXPECT_EQ(signal.depth, 0u);
+    signal.pending.pop_back();
+    signal.m_size = 1;
+    signal.pending[0].function = nullptr;
+    EXPECT_THROW(signal.emit(), std::bad_function_call) << "as the only one";
+    EXPECT_FALSE(signal.pending[0].running);
+    EXPECT_EQ(signal.depth, 0u);
+}
+
+TEST(SignalBase, RecordsTakenFromTheArrayByHandEnd)
+{
+    VoidProbe signal;
+    const auto captured = std::make_shared<int>();
+    for (int i = 0; i < 4; ++i)
+        signal.connect([captured] {});
+    signal.pending.pop_back();
+    EXPECT_EQ(captured.use_count(), 4);
+    signal.pending.clear();
+    EXPECT_EQ(captured.use_count(), 1);
+    signal.m_size = 0;
+    signal.emit();
 }
 
 } // namespace

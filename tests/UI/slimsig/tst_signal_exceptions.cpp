@@ -178,6 +178,7 @@ TEST(SignalExceptions, FromCopyingARecordLeaveTheSignalAsItWas)
     armed = true;
     EXPECT_THROW(signal.connect([] {}), Thrown);
     armed = false;
+    EXPECT_EQ(signal.last_id, 2u) << "the id was handed out before";
     EXPECT_EQ(signal.num_slots(), 1u);
     EXPECT_TRUE(signal.isTidy());
     signal.connect([] {});

@@ -1,7 +1,11 @@
+#include "UI/slimsig/detail/connection.h" // first, and so alone
+
 #include "SignalProbe.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -34,6 +38,36 @@ private:
 std::function<void()> slotEndingWith(std::function<void()> action)
 {
     return [end = AtEnd(std::move(action))] { (void)end; };
+}
+
+/// A slot that runs an action the next time that it is copied.
+class AtCopy {
+public:
+    explicit AtCopy(std::function<void()> &action)
+        : m_action(&action)
+    {
+    }
+
+    AtCopy(const AtCopy &other)
+        : m_action(other.m_action)
+    {
+        if (const std::function<void()> action = std::exchange(*m_action, nullptr))
+            action();
+    }
+
+    AtCopy(AtCopy &&) = default;
+
+    void operator()() const { }
+
+private:
+    std::function<void()> *m_action;
+};
+
+/// Connects until the next connection has to make room.
+void fillArray(VoidProbe &signal)
+{
+    while (signal.pending.size() < signal.pending.capacity())
+        signal.connect([] {});
 }
 
 TEST(SignalLifetime, ACallableMayConnectAtItsEndInTheCleanUp)
@@ -219,6 +253,35 @@ TEST(SignalLifetime, DestructionLooksNeitherAtDepthNorAtRunning)
     first.disconnect();
 }
 
+TEST(SignalLifetime, WhateverTheDepthSlotsComeBackToTheDestroyedSignalInTheSameWay)
+{
+    for (const std::uint32_t depth : { 0u, 1u }) {
+        std::optional<VoidProbe> signal(std::in_place);
+        std::size_t seen = 9;
+        Connection late;
+        signal->connect(slotEndingWith([&] {
+            seen = signal->pending.size();
+            late = signal->connect([] {});
+        }));
+        signal->connect([] {});
+        signal->depth = depth;
+        signal.reset();
+        EXPECT_EQ(seen, 0u);
+        EXPECT_FALSE(late.connected());
+    }
+}
+
+TEST(SignalLifetime, TheHolderIsReleasedBeforeTheSlotsEnd)
+{
+    std::optional<VoidProbe> signal(std::in_place);
+    bool released = false;
+    std::weak_ptr<VoidProbe::signal_holder> holder;
+    signal->connect(slotEndingWith([&] { released = holder.expired(); }));
+    holder = signal->holder;
+    signal.reset();
+    EXPECT_TRUE(released);
+}
+
 TEST(SignalLifetime, DisconnectedCallablesEndFirstToLastInTheCleanUp)
 {
     VoidProbe signal;
@@ -374,6 +437,122 @@ TEST(SignalLifetime, CallablesMayComeBackToTheSignalWhenTheyAreCopied)
     EXPECT_TRUE(signal.isWhole());
     signal.emit();
     EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalLifetime, WhatIsDisconnectedWhileSlotsAreCopiedEndsBeforeConnectReturns)
+{
+    VoidProbe signal;
+    std::string calls;
+    std::function<void()> action;
+    const auto captured = std::make_shared<int>();
+    Connection first = signal.connect([captured] {});
+    signal.connect(AtCopy(action));
+    fillArray(signal);
+    action = [&] {
+        first.disconnect();
+        EXPECT_EQ(captured.use_count(), 3) << "it stays until all are copied";
+    };
+    signal.connect([&calls] { calls += 'n'; });
+    EXPECT_EQ(captured.use_count(), 1);
+    EXPECT_TRUE(signal.isTidy());
+    signal.emit();
+    EXPECT_EQ(calls, "n");
+}
+
+TEST(SignalLifetime, AllMayBeDisconnectedWhileSlotsAreCopied)
+{
+    VoidProbe signal;
+    std::string calls;
+    std::function<void()> action;
+    const auto captured = std::make_shared<int>();
+    signal.connect([captured] {});
+    signal.connect(AtCopy(action));
+    fillArray(signal);
+    action = [&] { signal.disconnect_all_slots(); };
+    signal.connect([&calls] { calls += 'n'; });
+    EXPECT_EQ(captured.use_count(), 1);
+    EXPECT_EQ(signal.num_slots(), 1u);
+    EXPECT_TRUE(signal.isTidy());
+    signal.emit();
+    EXPECT_EQ(calls, "n");
+}
+
+TEST(SignalLifetime, AllMayBeDisconnectedWhileSlotsAreCopiedInACleanUp)
+{
+    VoidProbe signal;
+    std::string calls;
+    std::function<void()> action;
+    Connection ending = signal.connect(slotEndingWith([&] {
+        fillArray(signal);
+        action = [&] { signal.disconnect_all_slots(); };
+        signal.connect([&calls] { calls += 'n'; });
+    }));
+    signal.connect(AtCopy(action));
+    signal.connect([&ending] { ending.disconnect(); });
+    signal.emit();
+    EXPECT_FALSE(action) << "a slot was copied";
+    EXPECT_TRUE(signal.isTidy());
+    signal.emit();
+    EXPECT_EQ(calls, "n");
+}
+
+TEST(SignalLifetime, ACopiedSlotMayDisconnectWhatOwnsTheSignal)
+{
+    std::shared_ptr<VoidProbe> owner(new VoidProbe);
+    VoidProbe &signal = *owner;
+    const std::weak_ptr<VoidProbe> watched = owner;
+    std::function<void()> action;
+    Connection owning = signal.connect([owner = std::exchange(owner, nullptr)] {});
+    signal.connect(AtCopy(action));
+    fillArray(signal);
+    action = [&owning] { owning.disconnect(); };
+    const auto captured = std::make_shared<int>();
+    const Connection late = signal.connect([captured] {});
+    EXPECT_TRUE(watched.expired());
+    EXPECT_FALSE(late.connected());
+    EXPECT_EQ(captured.use_count(), 1);
+}
+
+TEST(SignalLifetime, ACopyThatConnectsAndThrowsLeavesNothingBehind)
+{
+    const auto captured = std::make_shared<int>();
+    int ends = 0;
+    {
+        VoidProbe signal;
+        std::function<void()> action;
+        signal.connect([captured] {});
+        signal.connect(AtCopy(action));
+        signal.connect(slotEndingWith([&] {
+            ++ends;
+            signal.connect([] {});
+        }));
+        fillArray(signal);
+        const std::size_t count = signal.num_slots();
+        action = [&signal] {
+            signal.connect([] {});
+            throw 1;
+        };
+        EXPECT_THROW(signal.connect([] {}), int);
+        EXPECT_EQ(captured.use_count(), 2);
+        EXPECT_EQ(signal.num_slots(), count + 1);
+        EXPECT_TRUE(signal.isTidy());
+        signal.emit();
+    }
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(captured.use_count(), 1);
+}
+
+TEST(SignalLifetime, ASlotThatOthersOvertookWhileItMadeRoomTakesALaterId)
+{
+    VoidProbe signal;
+    std::function<void()> action;
+    signal.connect(AtCopy(action));
+    fillArray(signal);
+    action = [&signal] { signal.connect([] {}); };
+    const Connection last = signal.connect([] {});
+    EXPECT_TRUE(last.connected());
+    EXPECT_TRUE(signal.isTidy()) << "ids rise along the array";
+    EXPECT_EQ(signal.pending.back().id, 3u) << "1 is given up, 2 was the other's";
 }
 
 /// Does something random to the signal when it ends, as often as the budget lasts.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <numeric>
 #include <string>
@@ -438,6 +439,61 @@ TEST(SignalReentrancy, ADeadPrefixAndOtherDeadRecordsLeaveTogether)
     ASSERT_TRUE(signal.isTidy());
     ASSERT_EQ(signal.pending.size(), 1u);
     EXPECT_EQ(signal.pending[0].id, 3u);
+}
+
+TEST(SignalReentrancy, ADepthRaisedInASlotOutlivesTheEmission)
+{
+    for (const int count : { 1, 2 }) {
+        VoidProbe signal;
+        std::unique_ptr<VoidProbe::emit_scope> scope;
+        for (int i = 0; i < count; ++i) {
+            signal.connect([&] {
+                if (!scope)
+                    scope = std::make_unique<VoidProbe::emit_scope>(signal);
+            });
+        }
+        Connection last = signal.connect([] {});
+        last.disconnect();
+        signal.emit();
+        EXPECT_EQ(signal.depth, 1u);
+        scope.reset();
+        EXPECT_EQ(signal.depth, 0u);
+        EXPECT_TRUE(signal.isTidy());
+    }
+}
+
+TEST(SignalReentrancy, AnEmitScopeReleasesWhatItsSignalHasOutgrown)
+{
+    VoidProbe signal;
+    const auto captured = std::make_shared<int>();
+    {
+        const VoidProbe::emit_scope scope(signal);
+        for (int i = 0; i < 5; ++i)
+            signal.connect([captured, room = std::array<long, 4>()] { (void)room; });
+        EXPECT_GT(captured.use_count(), 6);
+        signal.emit();
+        EXPECT_GT(captured.use_count(), 6) << "a scope is open";
+    }
+    EXPECT_EQ(captured.use_count(), 6);
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, AHolderThatIsGoneIsMadeAnew)
+{
+    VoidProbe signal;
+    int calls = 0;
+    signal.connect([] {});
+    signal.holder.reset();
+    Connection second = signal.connect([&] {
+        ++calls;
+        signal.holder.reset();
+        signal.connect([] {});
+    });
+    EXPECT_TRUE(second.connected());
+    signal.emit();
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(signal.num_slots(), 3u);
+    EXPECT_FALSE(second.connected()) << "it watches the holder that is gone";
 }
 
 TEST(SignalReentrancy, TwoSignalsMayEmitEachOther)

@@ -111,3 +111,5 @@ private:
 template <class Signature> scoped_connection(connection<Signature>) -> scoped_connection<Signature>;
 
 } // namespace slimsig
+
+#include "signal_base.h"

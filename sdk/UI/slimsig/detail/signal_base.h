@@ -56,6 +56,7 @@ public:
     /// Makes all connections find nothing, then destroys the slots first to last.
     ~signal_base()
     {
+        depth = 0;
         while (holder)
             abandon();
     }
@@ -65,11 +66,12 @@ public:
     /// end the process.
     connection connect(function_type function)
     {
+        const slot_id id = prepare_connection();
         if (pending.capacity() == 0)
             pending.reserve(1);
         else if (pending.size() == pending.capacity())
-            return connect_growing(std::move(function));
-        return append(std::move(function));
+            return connect_growing(id, std::move(function));
+        return append(id, std::move(function));
     }
 
     /// Calls the slots in order of connection. Arguments passed by value are copied for each slot
@@ -104,7 +106,8 @@ public:
 protected:
     using slot_array = detail::slot_array<slot_type>;
 
-    /// Counts an emission in and out, and tidies up when the outermost one ends.
+    /// Counts an emission in and out, and tidies up when the outermost one ends. The walk over the
+    /// slots has a lighter one, walk_scope.
     class emit_scope {
     public:
         explicit emit_scope(signal_base &emitted) noexcept
@@ -116,9 +119,9 @@ protected:
         emit_scope(const emit_scope &) = delete;
         emit_scope &operator=(const emit_scope &) = delete;
 
-        [[gnu::always_inline]] ~emit_scope()
+        ~emit_scope()
         {
-            if (--signal.depth == 0)
+            if (--signal.depth == 0 && signal.release_outgrown())
                 signal.tidy_up();
         }
 
@@ -149,7 +152,7 @@ protected:
         return last_id++;
     }
 
-    slot_array pending; ///< All records in order of connection, dead ones until the clean-up.
+    slot_array pending; ///< All records in order of connection, dead ones until a clean-up.
     std::shared_ptr<signal_holder> holder; ///< Made at the first connection.
     slot_id last_id = 0; ///< The next id to hand out.
     size_type m_size = 0; ///< The number of connected slots.
@@ -160,8 +163,8 @@ protected:
 private:
     friend connection;
 
-    /// The holder as it is allocated, with the arrays that were outgrown during the running
-    /// emission. A callable runs inside its record, so that its array has to stay until it returns.
+    /// The holder as it is allocated, with the arrays that were outgrown while slots were called or
+    /// copied. A callable runs inside its record, so that its array has to stay until it returns.
     struct storage_holder final : signal_holder {
         explicit storage_holder(signal_base *owner) noexcept
             : signal_holder { owner }
@@ -171,23 +174,24 @@ private:
         std::forward_list<slot_array> outgrown;
     };
 
-    /// Does what emit_scope does, for an emission that is known not to run inside another. It
-    /// writes the depth without reading it, so that one emission need not wait for the last.
-    class outermost_scope {
+    /// Counts a walk in and out. What its slots have outgrown goes where the walk finds the array
+    /// moved. It writes the depth that it is told, so that an emission known to be the outermost
+    /// need not wait for what the one before has written.
+    class walk_scope {
     public:
-        explicit outermost_scope(signal_base &emitted) noexcept
+        walk_scope(signal_base &emitted, std::uint32_t entered) noexcept
             : signal(emitted)
         {
-            signal.depth = 1;
+            signal.depth = entered;
         }
 
-        outermost_scope(const outermost_scope &) = delete;
-        outermost_scope &operator=(const outermost_scope &) = delete;
+        walk_scope(const walk_scope &) = delete;
+        walk_scope &operator=(const walk_scope &) = delete;
 
-        [[gnu::always_inline]] ~outermost_scope()
+        [[gnu::always_inline]] ~walk_scope()
         {
-            signal.depth = 0;
-            signal.tidy_up();
+            if (--signal.depth == 0)
+                signal.tidy_up();
         }
 
     private:
@@ -197,11 +201,13 @@ private:
     /// How emit() hands an argument on: what fits a register by value, anything else by reference.
     template <class Arg> using handed = std::conditional_t<std::is_scalar_v<Arg>, Arg, Arg &>;
 
-    /// Keeps every record in place while callables are copied, as an emission does.
+    /// Keeps every record in place while callables are copied, as an emission does, and tidies up
+    /// behind them if they have disconnected any.
     class copy_scope {
     public:
         explicit copy_scope(signal_base &copied) noexcept
             : signal(copied)
+            , dead(copied.count_dead())
         {
             ++signal.depth;
         }
@@ -209,10 +215,15 @@ private:
         copy_scope(const copy_scope &) = delete;
         copy_scope &operator=(const copy_scope &) = delete;
 
-        ~copy_scope() { --signal.depth; }
+        ~copy_scope()
+        {
+            if (--signal.depth == 0 && signal.release_outgrown() && signal.count_dead() != dead)
+                signal.tidy_up();
+        }
 
     private:
         signal_base &signal;
+        const size_type dead;
     };
 
     /// Marks a record as running until its callable has returned or thrown.
@@ -232,7 +243,7 @@ private:
         [[gnu::always_inline]] ~running_scope()
         {
             if (!returned)
-                signal.leave(first, slot);
+                signal.end_thrown_call(first, slot);
         }
 
         /// Ends a call that has not thrown. Whether the array has moved is left to the walk.
@@ -256,20 +267,20 @@ private:
     template <class... Passed>
     void call_slot(slot_type *first, slot_type *slot, Passed &&...passed);
     void call_behind_offset(handed<Args>... args);
-    bool has_left(const slot_type *first) const noexcept;
+    bool has_moved(const slot_type *first) const noexcept;
     void call_moved(const slot_type *first, const slot_type *slot, const slot_type *last,
                     handed<Args>... args);
     void call_by_index(size_type next, size_type end, handed<Args>... args);
     template <class... Passed> void call_at(size_type index, Passed &&...passed);
-    void leave(slot_type *first, slot_type *slot) noexcept;
-    void leave_moved(const slot_type *first, const slot_type *slot) noexcept;
+    void end_thrown_call(slot_type *first, slot_type *slot) noexcept;
+    void end_moving_call(const slot_type *first, const slot_type *slot) noexcept;
 
-    connection append(function_type &&function);
-    connection connect_growing(function_type &&function);
+    connection append(slot_id id, function_type &&function);
+    connection connect_growing(slot_id id, function_type &&function);
     bool mostly_dead() const noexcept;
     void grow(slot_array &dropped);
     bool copy_records(slot_array &copies);
-    void release_outgrown() noexcept;
+    bool release_outgrown() noexcept;
     void clean_up() noexcept;
     bool drop_dead_callables(const signal_holder &watched) noexcept;
     bool is_connected(slot_id id) noexcept;
@@ -283,6 +294,9 @@ private:
         else
             clean_up();
     }
+
+    /// Returns how many records are not counted as connected.
+    size_type count_dead() const noexcept { return pending.size() - m_size; }
 
     bool stands_at(const slot_type *first) const noexcept
     {

