@@ -186,6 +186,28 @@ TEST(SignalExceptions, FromCopyingARecordLeaveTheSignalAsItWas)
     EXPECT_EQ(signal.num_slots(), 2u);
 }
 
+TEST(SignalExceptions, FromCopyingARecordInASlotLeaveTheEmissionToGoOn)
+{
+    VoidProbe signal;
+    bool armed = false;
+    int calls = 0;
+    signal.connect(ThrowingCopyCallable(&armed));
+    signal.connect([&] {
+        armed = true;
+        EXPECT_THROW(
+            {
+                while (true)
+                    signal.connect([] {});
+            },
+            Thrown);
+        armed = false;
+    });
+    signal.connect([&calls] { ++calls; });
+    signal.emit();
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(signal.isTidy());
+}
+
 TEST(SignalExceptions, TheRemovalOfDeadRecordsCopiesNoCallable)
 {
     VoidProbe signal;

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <memory>
 #include <numeric>
 #include <string>
+#include <utility>
 #include <vector>
 
 // What slots do to the signal that is calling them.
@@ -187,6 +189,66 @@ TEST(SignalReentrancy, WhenANestedEmissionMovesTheArrayTheOuterOneGoesOnBehindIt
             EXPECT_TRUE(signal.isTidy());
         }
     }
+}
+
+/// An argument that runs an action the next time that it is copied.
+struct CopiedArgument {
+    explicit CopiedArgument(std::function<void()> *then)
+        : action(then)
+    {
+    }
+
+    CopiedArgument(const CopiedArgument &other)
+        : action(other.action)
+    {
+        if (const std::function<void()> now = std::exchange(*action, nullptr))
+            now();
+    }
+
+    CopiedArgument(CopiedArgument &&) = default;
+
+    std::function<void()> *action;
+};
+
+TEST(SignalReentrancy, AnArgumentMayMoveTheArrayAndDisconnectWhileItIsCopied)
+{
+    SignalProbe<void(CopiedArgument)> signal;
+    std::vector<slimsig::connection<void(CopiedArgument)>> connections;
+    std::vector<int> calls;
+    for (int i = 0; i < 3; ++i) {
+        connections.push_back(
+            signal.connect([&calls, i](const CopiedArgument &) { calls.push_back(i); }));
+    }
+    std::function<void()> action = [&] {
+        EXPECT_TRUE(signal.pending[0].running) << "set before the argument is copied";
+        EXPECT_TRUE(calls.empty());
+        moveArray(signal);
+        connections[1].disconnect();
+    };
+    signal.emit(CopiedArgument(&action));
+    EXPECT_EQ(calls, (std::vector<int> { 0, 2 }));
+    EXPECT_TRUE(signal.isTidy());
+}
+
+TEST(SignalReentrancy, EveryKindOfArgumentReachesTheSlotsBehindAMove)
+{
+    SignalProbe<void(int &, const std::string &, long *, std::string)> signal;
+    int calls = 0;
+    const std::string text = "by reference";
+    long target = 0;
+    signal.connect([&signal](auto &&...) { moveArray(signal); });
+    for (int i = 0; i < 2; ++i) {
+        signal.connect(
+            [&](int &number, const std::string &seen, long *pointer, const std::string &value) {
+                EXPECT_EQ(&seen, &text);
+                EXPECT_EQ(value, "by value");
+                ++*pointer;
+                calls = ++number;
+            });
+    }
+    signal.emit(calls, text, &target, "by value");
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(target, 2);
 }
 
 TEST(SignalReentrancy, OutgrownArraysStayWhileAnyOuterCallRuns)
