@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
@@ -15,12 +16,14 @@
 namespace {
 
 std::size_t allocations = 0;
+std::size_t failing = 0; // which allocation fails; 0 for none
 
 } // namespace
 
 void *operator new(std::size_t size)
 {
-    ++allocations;
+    if (++allocations == failing)
+        throw std::bad_alloc();
     if (void *const memory = std::malloc(size))
         return memory;
     throw std::bad_alloc();
@@ -282,6 +285,63 @@ TEST(SignalCosts, TheHolderIsOneAllocationWithItsCounts)
     EXPECT_EQ(allocations - before, 1u);
     signal.prepare_connection();
     EXPECT_EQ(allocations - before, 1u);
+}
+
+/// Connects a slot that holds \a captured, while the allocation number \a which fails. Returns
+/// whether it was reached.
+bool connectWithout(std::size_t which, VoidProbe &signal, const std::shared_ptr<int> &captured)
+{
+    const std::size_t before = signal.num_slots();
+    std::function<void()> slot = [captured, room = std::array<void *, 8>()] { (void)room; };
+    failing = allocations + which;
+    bool failed = false;
+    try {
+        signal.connect(std::move(slot));
+    } catch (const std::bad_alloc &) {
+        failed = true;
+    }
+    failing = 0;
+    EXPECT_EQ(signal.num_slots(), failed ? before : before + 1);
+    return failed;
+}
+
+TEST(SignalCosts, AFailedAllocationLeavesTheSignalAsItWas)
+{
+    const auto captured = std::make_shared<int>();
+    std::size_t failures = 0;
+    for (std::size_t which = 1; which <= 8; ++which) {
+        VoidProbe signal;
+        for (int i = 0; i < 5; ++i)
+            failures += connectWithout(which, signal, captured);
+        EXPECT_TRUE(signal.isTidy());
+        signal.emit();
+        EXPECT_EQ(captured.use_count(), static_cast<long>(signal.num_slots()) + 1);
+    }
+    EXPECT_GT(failures, 8u);
+    EXPECT_EQ(captured.use_count(), 1);
+}
+
+TEST(SignalCosts, AFailedAllocationInASlotLeavesTheEmissionToGoOn)
+{
+    const auto captured = std::make_shared<int>();
+    std::size_t failures = 0;
+    for (std::size_t which = 1; which <= 8; ++which) {
+        VoidProbe signal;
+        int calls = 0;
+        signal.connect([&] {
+            if (calls == 0) {
+                for (int i = 0; i < 5; ++i)
+                    failures += connectWithout(which, signal, captured);
+            }
+        });
+        signal.connect([&calls] { ++calls; });
+        signal.emit();
+        EXPECT_EQ(calls, 1);
+        EXPECT_TRUE(signal.isTidy());
+        EXPECT_EQ(captured.use_count(), static_cast<long>(signal.num_slots()) - 1);
+    }
+    EXPECT_GT(failures, 8u);
+    EXPECT_EQ(captured.use_count(), 1);
 }
 
 } // namespace
