@@ -454,7 +454,7 @@ TEST(SignalLifetime, WhatIsDisconnectedWhileSlotsAreCopiedEndsBeforeConnectRetur
     };
     signal.connect([&calls] { calls += 'n'; });
     EXPECT_EQ(captured.use_count(), 1);
-    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.isWhole());
     signal.emit();
     EXPECT_EQ(calls, "n");
 }
@@ -472,7 +472,7 @@ TEST(SignalLifetime, AllMayBeDisconnectedWhileSlotsAreCopied)
     signal.connect([&calls] { calls += 'n'; });
     EXPECT_EQ(captured.use_count(), 1);
     EXPECT_EQ(signal.num_slots(), 1u);
-    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.isWhole());
     signal.emit();
     EXPECT_EQ(calls, "n");
 }
@@ -491,9 +491,68 @@ TEST(SignalLifetime, AllMayBeDisconnectedWhileSlotsAreCopiedInACleanUp)
     signal.connect([&ending] { ending.disconnect(); });
     signal.emit();
     EXPECT_FALSE(action) << "a slot was copied";
-    EXPECT_TRUE(signal.isTidy());
+    EXPECT_TRUE(signal.isWhole());
     signal.emit();
     EXPECT_EQ(calls, "n");
+}
+
+TEST(SignalLifetime, ACopiedSlotMayDisconnectItselfBesideASlotConnectedEmpty)
+{
+    for (const bool throwing : { false, true }) {
+        VoidProbe signal;
+        std::function<void()> action;
+        const auto captured = std::make_shared<int>();
+        signal.connect({});
+        Connection copied =
+            signal.connect([captured, copy = AtCopy(action)] { (void)captured, (void)copy; });
+        fillArray(signal);
+        action = [&] {
+            copied.disconnect();
+            if (throwing)
+                throw 1;
+        };
+        if (throwing)
+            EXPECT_THROW(signal.connect([] {}), int);
+        else
+            signal.connect([] {});
+        EXPECT_EQ(captured.use_count(), 1);
+        EXPECT_EQ(signal.num_slots(), throwing ? 1u : 2u);
+        EXPECT_EQ(signal.m_offset, 0u);
+    }
+}
+
+TEST(SignalLifetime, ACopiedSlotMayDisconnectAllAndConnectAnEmptyOne)
+{
+    VoidProbe signal;
+    std::function<void()> action;
+    signal.connect(AtCopy(action));
+    fillArray(signal);
+    action = [&] {
+        signal.disconnect_all_slots();
+        signal.connect({});
+    };
+    signal.connect([] {});
+    EXPECT_EQ(signal.m_offset, 0u);
+    EXPECT_EQ(signal.num_slots(), 2u);
+}
+
+TEST(SignalLifetime, AnInnerEmissionWhileSlotsAreCopiedClearsRunningInTheCopies)
+{
+    VoidProbe signal;
+    std::function<void()> action;
+    bool running = true;
+    signal.connect([&] {
+        if (signal.depth > 1)
+            return;
+        fillArray(signal);
+        action = [&signal] { signal.emit(); };
+        signal.connect([] {});
+        running = signal.pending[0].running;
+    });
+    signal.connect(AtCopy(action));
+    signal.emit();
+    EXPECT_FALSE(action) << "a slot was copied";
+    EXPECT_FALSE(running);
 }
 
 TEST(SignalLifetime, ACopiedSlotMayDisconnectWhatOwnsTheSignal)

@@ -27,7 +27,8 @@ public:
 
     /// Disconnects the slot. Does nothing if it is disconnected already or its signal is gone.
     /// Outside an emission the callable is destroyed before this returns, inside one when the
-    /// outermost emission ends; either way it is not called again.
+    /// outermost emission ends, and while connect() copies slots, before that returns; it is not
+    /// called again.
     void disconnect()
     {
         if (signal_type *const found = signal())

@@ -27,7 +27,8 @@ namespace slimsig {
 /// called from the next emission on, a disconnected one is not called any more, and the array is
 /// tidied when the outermost emission ends. An exception from a slot ends the emission and reaches
 /// the emitter. A signal allocates nothing before the first connect(), and an emission nothing at
-/// all. One thread only. A signal must not be destroyed by one of its own slots.
+/// all. One thread only. A signal must not be destroyed inside its own emission, nor by a callable
+/// that it is copying.
 template <class SignalTraits, class Allocator, class R, class... Args>
 class signal_base<SignalTraits, Allocator, R(Args...)> {
     static_assert(std::is_same_v<SignalTraits, signal_traits<R(Args...)>>,
@@ -61,9 +62,10 @@ public:
             abandon();
     }
 
-    /// Appends a slot, which is called from the next emission on. An empty function counts as a
-    /// slot but is never called, and must not be mixed with disconnecting: the next clean-up would
-    /// end the process.
+    /// Appends a slot, which is called from the next emission on. Making room copies the slots
+    /// there are; what that throws leaves them as they were. An empty function counts as a slot but
+    /// is never called, and must not be mixed with disconnecting: the next emission would end the
+    /// process.
     connection connect(function_type function)
     {
         const slot_id id = prepare_connection();
@@ -174,9 +176,9 @@ private:
         std::forward_list<slot_array> outgrown;
     };
 
-    /// Counts a walk in and out. What its slots have outgrown goes where the walk finds the array
-    /// moved. It writes the depth that it is told, so that an emission known to be the outermost
-    /// need not wait for what the one before has written.
+    /// Counts a walk in and out. What its slots have outgrown goes where the outermost walk finds
+    /// the array moved, or with the scope around it. It writes the depth that it is told, so that
+    /// an emission known to be the outermost need not wait for what the one before has written.
     class walk_scope {
     public:
         walk_scope(signal_base &emitted, std::uint32_t entered) noexcept
@@ -201,8 +203,9 @@ private:
     /// How emit() hands an argument on: what fits a register by value, anything else by reference.
     template <class Arg> using handed = std::conditional_t<std::is_scalar_v<Arg>, Arg, Arg &>;
 
-    /// Keeps every record in place while callables are copied, as an emission does, and tidies up
-    /// behind them if they have disconnected any.
+    /// Keeps every record in place while callables are copied, as an emission does. What has been
+    /// outgrown or disconnected meanwhile ends behind them; its records wait for the next clean-up,
+    /// as with any disconnect outside an emission.
     class copy_scope {
     public:
         explicit copy_scope(signal_base &copied) noexcept
@@ -218,7 +221,7 @@ private:
         ~copy_scope()
         {
             if (--signal.depth == 0 && signal.release_outgrown() && signal.count_dead() != dead)
-                signal.tidy_up();
+                signal.drop_dead();
         }
 
     private:
@@ -282,6 +285,7 @@ private:
     bool copy_records(slot_array &copies);
     bool release_outgrown() noexcept;
     void clean_up() noexcept;
+    bool drop_dead() noexcept;
     bool drop_dead_callables(const signal_holder &watched) noexcept;
     bool is_connected(slot_id id) noexcept;
     void disconnect_slot(slot_id id);

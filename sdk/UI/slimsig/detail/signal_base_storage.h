@@ -37,7 +37,7 @@ auto signal_base<SignalTraits, Allocator, R(Args...)>::append(slot_id id, functi
 
 /// Makes room and appends. The array that was outgrown goes when the signal is whole again, since
 /// the end of its callables may lead back here. What runs meanwhile may connect, too: then the slot
-/// takes a later id, as ids rise along the array. It may even take the signal along.
+/// takes a later id, as ids rise along the array. What ends meanwhile may take the signal along.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline]] auto signal_base<SignalTraits, Allocator, R(Args...)>::connect_growing(
     slot_id id, function_type &&function) -> connection
@@ -70,8 +70,9 @@ bool signal_base<SignalTraits, Allocator, R(Args...)>::mostly_dead() const noexc
     return dead == static_cast<std::size_t>(inactive);
 }
 
-/// Goes over to an array twice as long. In an emission the outgrown one stays, and its records turn
-/// inactive, so that a walk over them finds out before it calls the next one.
+/// Goes over to an array twice as long. Where nothing but this copying is under way, the outgrown
+/// one may go. Otherwise it stays, and its records turn inactive, so that a walk over them finds
+/// out before it calls the next one.
 template <class SignalTraits, class Allocator, class R, class... Args>
 void signal_base<SignalTraits, Allocator, R(Args...)>::grow(slot_array &dropped)
 {
@@ -104,28 +105,39 @@ bool signal_base<SignalTraits, Allocator, R(Args...)>::copy_records(slot_array &
         copies.push_back(*slot);
     if (!stands_at(first))
         return false;
-    for (std::size_t i = 0; i < copies.size(); ++i)
+    for (std::size_t i = 0; i < copies.size(); ++i) {
         copies[i].active = pending[i].active;
+        copies[i].running = pending[i].running;
+    }
     return true;
 }
 
-/// Removes the dead records and keeps the order of the others. What a dead callable captured
-/// may connect, disconnect and emit when it is destroyed, or take the signal along: so each one
-/// is taken out of its record first, and the records leave when nobody's code can run any more.
+/// Removes the dead records and keeps the order of the others, when nobody's code can run any more.
 template <class SignalTraits, class Allocator, class R, class... Args>
 [[gnu::noinline, gnu::cold]] void
 signal_base<SignalTraits, Allocator, R(Args...)>::clean_up() noexcept
 {
+    if (!drop_dead())
+        return;
+    detail::remove_inactive(pending);
+    detail::verify(m_size == pending.size(), "m_size == pending.size()");
+}
+
+/// Destroys the callables of the dead records. What they captured may connect, disconnect and emit
+/// when it is destroyed, or take the signal along: so each one is taken out of its record first.
+/// Returns whether the signal is left.
+template <class SignalTraits, class Allocator, class R, class... Args>
+[[gnu::noinline, gnu::cold]] bool
+signal_base<SignalTraits, Allocator, R(Args...)>::drop_dead() noexcept
+{
     const auto dead_end = pending.begin() + static_cast<std::ptrdiff_t>(m_offset);
     std::for_each(pending.begin(), dead_end, [](slot_type &slot) { slot.active = false; });
     m_offset = 0;
-    if (const std::shared_ptr<const signal_holder> watched = holder) {
-        while (drop_dead_callables(*watched)) { }
-        if (!watched->signal)
-            return;
-    }
-    detail::remove_inactive(pending);
-    detail::verify(m_size == pending.size(), "m_size == pending.size()");
+    const std::shared_ptr<const signal_holder> watched = holder;
+    if (!watched)
+        return true;
+    while (drop_dead_callables(*watched)) { }
+    return watched->signal;
 }
 
 /// Returns whether there were any and the signal has survived it, which calls for another look.

@@ -37,7 +37,8 @@ template <class Slot> struct slot_allocator {
 /// a tenth off the end of a signal with many slots.
 ///
 /// Nothing else destroys a record, so that of the vector's own operations it has those alone that
-/// destroy none: make room while it is empty, and append while there is room.
+/// need not. Room may be made only while it is empty, and records be appended only while there is
+/// room: moving to other room would leave the old records undestroyed.
 template <class Slot> class slot_array : private std::vector<Slot, slot_allocator<Slot>> {
     using records = std::vector<Slot, slot_allocator<Slot>>;
 
