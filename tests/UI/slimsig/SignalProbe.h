@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <utility>
 
 template <class Signature>
 using Signal = slimsig::signal_base<slimsig::signal_traits<Signature>,
@@ -47,4 +48,27 @@ public:
 
     /// What isWhole() says, and no dead record is left.
     bool isTidy() const { return isWhole() && this->m_size == this->pending.size(); }
+};
+
+/// A slot, or an argument, that runs an action the next time that it is copied.
+class AtCopy {
+public:
+    explicit AtCopy(std::function<void()> &action)
+        : m_action(&action)
+    {
+    }
+
+    AtCopy(const AtCopy &other)
+        : m_action(other.m_action)
+    {
+        if (const std::function<void()> action = std::exchange(*m_action, nullptr))
+            action();
+    }
+
+    AtCopy(AtCopy &&) = default;
+
+    void operator()() const { }
+
+private:
+    std::function<void()> *m_action;
 };

@@ -40,29 +40,6 @@ std::function<void()> slotEndingWith(std::function<void()> action)
     return [end = AtEnd(std::move(action))] { (void)end; };
 }
 
-/// A slot that runs an action the next time that it is copied.
-class AtCopy {
-public:
-    explicit AtCopy(std::function<void()> &action)
-        : m_action(&action)
-    {
-    }
-
-    AtCopy(const AtCopy &other)
-        : m_action(other.m_action)
-    {
-        if (const std::function<void()> action = std::exchange(*m_action, nullptr))
-            action();
-    }
-
-    AtCopy(AtCopy &&) = default;
-
-    void operator()() const { }
-
-private:
-    std::function<void()> *m_action;
-};
-
 /// Connects until the next connection has to make room.
 void fillArray(VoidProbe &signal)
 {

@@ -8,7 +8,6 @@
 #include <memory>
 #include <numeric>
 #include <string>
-#include <utility>
 #include <vector>
 
 // What slots do to the signal that is calling them.
@@ -17,6 +16,14 @@ namespace {
 
 using VoidProbe = SignalProbe<void()>;
 using Connection = slimsig::connection<void()>;
+
+/// Makes the array move by connecting, which a full one does at once.
+template <class Probe> void moveArray(Probe &signal)
+{
+    const auto *const before = signal.pending.data();
+    while (signal.pending.data() == before)
+        signal.connect([](auto...) {});
+}
 
 TEST(SignalReentrancy, ASlotConnectedDuringAnEmissionIsCalledFromTheNextOn)
 {
@@ -87,9 +94,7 @@ TEST(SignalReentrancy, RunningIsClearedThroughTheIndexWhenTheArrayHasMoved)
     VoidProbe signal;
     signal.connect([] {});
     signal.connect([&signal] {
-        const auto *const before = signal.pending.data();
-        while (signal.pending.data() == before)
-            signal.connect([] {});
+        moveArray(signal);
         EXPECT_TRUE(signal.pending[1].running) << "the flag is copied with the record";
     });
     signal.emit();
@@ -115,14 +120,6 @@ std::vector<int> indexesFrom(int first, int end)
     std::vector<int> indexes(static_cast<std::size_t>(std::max(end - first, 0)));
     std::iota(indexes.begin(), indexes.end(), first);
     return indexes;
-}
-
-/// Makes the array move by connecting, which a full one does at once.
-template <class Probe> void moveArray(Probe &signal)
-{
-    const auto *const before = signal.pending.data();
-    while (signal.pending.data() == before)
-        signal.connect([](auto...) {});
 }
 
 /// Emits to \a count slots, of which \a mover makes the array move and disconnects \a dropped.
@@ -191,33 +188,13 @@ TEST(SignalReentrancy, WhenANestedEmissionMovesTheArrayTheOuterOneGoesOnBehindIt
     }
 }
 
-/// An argument that runs an action the next time that it is copied.
-struct CopiedArgument {
-    explicit CopiedArgument(std::function<void()> *then)
-        : action(then)
-    {
-    }
-
-    CopiedArgument(const CopiedArgument &other)
-        : action(other.action)
-    {
-        if (const std::function<void()> now = std::exchange(*action, nullptr))
-            now();
-    }
-
-    CopiedArgument(CopiedArgument &&) = default;
-
-    std::function<void()> *action;
-};
-
 TEST(SignalReentrancy, AnArgumentMayMoveTheArrayAndDisconnectWhileItIsCopied)
 {
-    SignalProbe<void(CopiedArgument)> signal;
-    std::vector<slimsig::connection<void(CopiedArgument)>> connections;
+    SignalProbe<void(AtCopy)> signal;
+    std::vector<slimsig::connection<void(AtCopy)>> connections;
     std::vector<int> calls;
     for (int i = 0; i < 3; ++i) {
-        connections.push_back(
-            signal.connect([&calls, i](const CopiedArgument &) { calls.push_back(i); }));
+        connections.push_back(signal.connect([&calls, i](const AtCopy &) { calls.push_back(i); }));
     }
     std::function<void()> action = [&] {
         EXPECT_TRUE(signal.pending[0].running) << "set before the argument is copied";
@@ -225,7 +202,7 @@ TEST(SignalReentrancy, AnArgumentMayMoveTheArrayAndDisconnectWhileItIsCopied)
         moveArray(signal);
         connections[1].disconnect();
     };
-    signal.emit(CopiedArgument(&action));
+    signal.emit(AtCopy(action));
     EXPECT_EQ(calls, (std::vector<int> { 0, 2 }));
     EXPECT_TRUE(signal.isTidy());
 }

@@ -312,9 +312,9 @@ private:
         return static_cast<size_type>(slot - first);
     }
 
-    std::forward_list<slot_array> &outgrown() noexcept
+    static std::forward_list<slot_array> &outgrown_of(signal_holder &kept) noexcept
     {
-        return static_cast<storage_holder &>(*holder).outgrown;
+        return static_cast<storage_holder &>(kept).outgrown;
     }
 };
 

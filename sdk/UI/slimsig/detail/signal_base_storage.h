@@ -17,7 +17,7 @@ signal_base<SignalTraits, Allocator, R(Args...)>::release_outgrown() noexcept
     if (!holder)
         return true;
     const std::shared_ptr<signal_holder> watched = holder;
-    std::forward_list<slot_array> &arrays = static_cast<storage_holder &>(*watched).outgrown;
+    std::forward_list<slot_array> &arrays = outgrown_of(*watched);
     while (!arrays.empty()) {
         slot_array dropped;
         dropped.swap(arrays.front());
@@ -86,11 +86,12 @@ void signal_base<SignalTraits, Allocator, R(Args...)>::grow(slot_array &dropped)
         other.swap(dropped);
         return;
     }
-    outgrown().emplace_front();
+    std::forward_list<slot_array> &arrays = outgrown_of(*holder);
+    arrays.emplace_front();
     other.swap(pending);
     for (slot_type &slot : other)
         slot.active = false;
-    other.swap(outgrown().front());
+    other.swap(arrays.front());
 }
 
 /// Copies the records. Copying a callable runs code of its own, which may lead back to this signal.

@@ -68,19 +68,7 @@ public:
     slot_array(const slot_array &) = delete;
     slot_array &operator=(const slot_array &) = delete;
 
-    ~slot_array()
-    {
-        Slot *slot = data();
-        Slot *const last = slot + size();
-        for (; last - slot >= 4; slot += 4) {
-            slot[0].~Slot();
-            slot[1].~Slot();
-            slot[2].~Slot();
-            slot[3].~Slot();
-        }
-        for (; slot != last; ++slot)
-            slot->~Slot();
-    }
+    ~slot_array() { destroy_from(0); }
 
     void swap(slot_array &other) noexcept { records::swap(other); }
 
@@ -91,8 +79,7 @@ public:
     /// Removes the records behind the first \a count.
     void truncate(std::size_t count) noexcept
     {
-        for (std::size_t i = count; i < size(); ++i)
-            (*this)[i].~Slot();
+        destroy_from(count);
         records::erase(begin() + static_cast<std::ptrdiff_t>(count), end());
     }
 
@@ -102,6 +89,21 @@ public:
         const auto first = reinterpret_cast<const std::byte *>(data());
         const auto last = reinterpret_cast<const std::byte *>(data() + size());
         return static_cast<std::size_t>(last - first);
+    }
+
+private:
+    void destroy_from(std::size_t index) noexcept
+    {
+        Slot *slot = data() + index;
+        Slot *const last = data() + size();
+        for (; last - slot >= 4; slot += 4) {
+            slot[0].~Slot();
+            slot[1].~Slot();
+            slot[2].~Slot();
+            slot[3].~Slot();
+        }
+        for (; slot != last; ++slot)
+            slot->~Slot();
     }
 };
 
