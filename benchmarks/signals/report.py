@@ -26,12 +26,14 @@ PEERS = ["slimsig", "same records", "boost", "boost, no mutex", "sigc++", "Qt"]
 LIMITS = {
     "emit to 1": 1.3, "emit to 8": 1.15, "emit to 64": 1.1, "emit to 1024": 1.1,
     "emit nested": 1.1, "emit QString to 8": 1.05, "emit 1000 signals": 1.3, "emit 4000 signals": 1.3,
-    "emit 1000 signals of 16 kinds": 1.3, "emit 4000 signals of 16 kinds": 1.3, "connect first": 2, "connect 64": 2, "disconnect 64": 4, "destroy 64": 1,
+    "emit 1000 signals of 16 kinds": 1.3, "emit 4000 signals of 16 kinds": 1.3,
+    "connect first": 2, "connect 64": 2, "disconnect 64": 4, "destroy 64": 1,
 }
 IDLE_NANOSECONDS = 1.5
 ROWS = ["emit to 0", "emit to 1", "emit to 8", "emit to 64", "emit to 1024", "emit nested",
         "emit QString to 8", "emit std::string to 8", "emit 1000 signals", "emit 4000 signals",
-        "emit 1000 signals of 16 kinds", "emit 4000 signals of 16 kinds", "connect first", "connect 64", "disconnect 64", "destroy 64", "construct and destroy"]
+        "emit 1000 signals of 16 kinds", "emit 4000 signals of 16 kinds",
+        "connect first", "connect 64", "disconnect 64", "destroy 64", "construct and destroy"]
 INSTRUCTIONS = {0: 12, 8: 150}
 
 
