@@ -5,6 +5,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
 #include <QtGui/QPixmap>
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
@@ -13,6 +14,12 @@
 namespace {
 
 constexpr int ProgramTimeout = 10000; // milliseconds
+
+QPixmap grabScreen()
+{
+    QGuiApplication::sync();
+    return QGuiApplication::primaryScreen()->grabWindow(0);
+}
 
 } // namespace
 
@@ -24,6 +31,16 @@ Hand::Hand(const QString &test)
 bool Hand::waitForWindow(QWidget *widget)
 {
     return QTest::qWaitForWindowExposed(widget) && QTest::qWaitForWindowActive(widget);
+}
+
+bool Hand::waitForBareScreen()
+{
+    return QTest::qWaitFor([] {
+        const QImage screen = grabScreen().toImage();
+        QImage bare(screen.size(), screen.format());
+        bare.fill(screen.pixelColor(0, 0));
+        return screen == bare;
+    });
 }
 
 bool Hand::moveTo(const QWidget *widget, const QPoint &position)
@@ -74,8 +91,7 @@ bool Hand::keepPicture(const QString &step)
 {
     const QString name =
         QStringLiteral("%1-%2-%3.png").arg(m_test).arg(++m_step, 2, 10, QLatin1Char('0')).arg(step);
-    QGuiApplication::sync();
-    const QPixmap screen = QGuiApplication::primaryScreen()->grabWindow(0);
+    const QPixmap screen = grabScreen();
     return QDir().mkpath(QStringLiteral(HAND_PICTURES))
         && screen.save(QDir(QStringLiteral(HAND_PICTURES)).filePath(name));
 }

@@ -16,6 +16,10 @@ public:
     /// Waits until the window of \a widget is shown and active.
     bool waitForWindow(QWidget *widget);
 
+    /// Waits until no window is left on the screen: behind its own window, a frame stays for as
+    /// long as the window manager takes.
+    bool waitForBareScreen();
+
     bool moveTo(const QWidget *widget, const QPoint &position);
     bool moveTo(const QWidget *widget);
     bool click(const QWidget *widget);

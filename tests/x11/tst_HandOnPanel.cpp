@@ -197,6 +197,7 @@ void tst_HandOnPanel::escapeEndsAModalDialogAsRejected()
     QCOMPARE(dialog.exec(), 0);
     QCOMPARE(dialog.result(), 0);
     QCOMPARE(rejected, 0); // Qt's way of ending a dialog emits nothing of ours
+    QVERIFY(hand.waitForBareScreen());
     QVERIFY(hand.keepPicture(QStringLiteral("closed")));
     delete dialog.getHandle();
 }
@@ -221,6 +222,7 @@ void tst_HandOnPanel::closingTheWindowEndsAModalDialogAsRejected()
     });
     QCOMPARE(dialog.exec(), 0);
     QCOMPARE(dialog.result(), 0);
+    QVERIFY(hand.waitForBareScreen());
     QVERIFY(hand.keepPicture(QStringLiteral("closed")));
     delete dialog.getHandle();
 }
